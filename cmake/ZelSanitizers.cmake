@@ -1,0 +1,19 @@
+# Applies ZEL_SANITIZE to everything built below, libraries and tests alike,
+# so that a sanitizer sees both sides of every call.
+if(ZEL_SANITIZE)
+  string(REPLACE "," ";" _zel_sanitizers "${ZEL_SANITIZE}")
+  foreach(_s IN LISTS _zel_sanitizers)
+    if(NOT _s MATCHES "^(address|undefined|thread|leak)$")
+      message(FATAL_ERROR "ZEL_SANITIZE: unknown sanitizer '${_s}'")
+    endif()
+  endforeach()
+  if("thread" IN_LIST _zel_sanitizers AND "address" IN_LIST _zel_sanitizers)
+    message(FATAL_ERROR "ZEL_SANITIZE: thread cannot be combined with address")
+  endif()
+  add_compile_options(-fsanitize=${ZEL_SANITIZE} -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${ZEL_SANITIZE})
+  if("undefined" IN_LIST _zel_sanitizers)
+    # Undefined behaviour fails the run instead of scrolling past in a log.
+    add_compile_options(-fno-sanitize-recover=undefined)
+  endif()
+endif()

@@ -1,0 +1,112 @@
+# The small helpers every CMakeLists of the project uses: one adds a library,
+# one a test executable, one a benchmark, one a compiled-in resource.
+include(GenerateExportHeader)
+
+set(ZEL_GENERATED_INCLUDE_DIR "${PROJECT_BINARY_DIR}/generated/include")
+
+function(zel_set_warnings target)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
+  if(ZEL_WARNINGS_AS_ERRORS)
+    target_compile_options(${target} PRIVATE -Werror)
+  endif()
+endfunction()
+
+# zel_add_library(<name> ROOT <include root> EXPORT_MACRO <PREFIX> SOURCES ...
+#                 [PUBLIC_DEPS ...] [PRIVATE_DEPS ...])
+# A shared library with hidden default visibility: only what carries the
+# generated <name>/Export.h macro is reachable, as from a Windows DLL.
+function(zel_add_library name)
+  cmake_parse_arguments(ARG "" "ROOT;EXPORT_MACRO" "SOURCES;PUBLIC_DEPS;PRIVATE_DEPS" ${ARGN})
+  add_library(${name} SHARED ${ARG_SOURCES})
+  add_library(zel::${name} ALIAS ${name})
+  target_compile_features(${name} PUBLIC cxx_std_20)
+  set_target_properties(${name} PROPERTIES
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR}
+    EXPORT_NAME ${name})
+  generate_export_header(${name}
+    BASE_NAME ${ARG_EXPORT_MACRO}
+    EXPORT_MACRO_NAME ${ARG_EXPORT_MACRO}_API
+    EXPORT_FILE_NAME "${ZEL_GENERATED_INCLUDE_DIR}/${name}/Export.h")
+  target_include_directories(${name} PUBLIC
+    $<BUILD_INTERFACE:${ARG_ROOT}>
+    $<BUILD_INTERFACE:${ZEL_GENERATED_INCLUDE_DIR}>
+    $<INSTALL_INTERFACE:include>)
+  target_link_libraries(${name} PUBLIC ${ARG_PUBLIC_DEPS} PRIVATE ${ARG_PRIVATE_DEPS})
+  zel_set_warnings(${name})
+  set_property(GLOBAL APPEND PROPERTY ZEL_LIBRARIES ${name})
+endfunction()
+
+# zel_add_test(<name> SOURCES ... LIBS ...)
+# One executable per library; one CTest entry per executable, so that the
+# fixtures' set-up and tear-down of process-wide singletons are exercised
+# between cases in one process.
+function(zel_add_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE ${ARG_LIBS} zel_test_support GTest::gmock)
+  zel_set_warnings(${name})
+  add_test(NAME ${name} COMMAND ${name} --gtest_color=no)
+  set_tests_properties(${name} PROPERTIES
+    ENVIRONMENT "KRO_BACKEND=headless;ZEL_SOURCE_DIR=${PROJECT_SOURCE_DIR}"
+    TIMEOUT 600)
+endfunction()
+
+# zel_add_bench(<name> SOURCES ... LIBS ...)
+function(zel_add_bench name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE ${ARG_LIBS} benchmark::benchmark benchmark::benchmark_main)
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bench")
+  zel_set_warnings(${name})
+  set_property(GLOBAL APPEND PROPERTY ZEL_BENCHMARKS ${name})
+endfunction()
+
+# zel_add_resource(<target> MODULE <module> TYPE <type> NAME <name> FILE <path>)
+# Compiles a file into <target>; at run time GetBinaryFromModule(module, type,
+# name) finds its bytes.
+function(zel_add_resource target)
+  cmake_parse_arguments(ARG "" "MODULE;TYPE;NAME;FILE" "" ${ARGN})
+  get_filename_component(_file "${ARG_FILE}" ABSOLUTE)
+  string(MAKE_C_IDENTIFIER "${ARG_MODULE}_${ARG_TYPE}_${ARG_NAME}" _id)
+  set(_out "${CMAKE_CURRENT_BINARY_DIR}/resources/${_id}.cpp")
+  add_custom_command(
+    OUTPUT "${_out}"
+    COMMAND ${CMAKE_COMMAND}
+      -DINPUT=${_file} -DOUTPUT=${_out} -DMODULE=${ARG_MODULE}
+      -DTYPE=${ARG_TYPE} -DNAME=${ARG_NAME} -DSYMBOL=${_id}
+      -P "${PROJECT_SOURCE_DIR}/cmake/EmbedResource.cmake"
+    DEPENDS "${_file}" "${PROJECT_SOURCE_DIR}/cmake/EmbedResource.cmake"
+    COMMENT "Embedding resource ${ARG_MODULE}/${ARG_TYPE}/${ARG_NAME}"
+    VERBATIM)
+  target_sources(${target} PRIVATE "${_out}")
+endfunction()
+
+# zel_add_fuzzer(<name> SOURCES ... LIBS ... [SECONDS n] [CORPUS dir])
+# A target defining LLVMFuzzerTestOneInput. Under clang it is a libFuzzer
+# binary; otherwise it links our mutation driver, which takes the same
+# -max_total_time= flag. Either way CTest runs it for SECONDS (default 10).
+function(zel_add_fuzzer name)
+  cmake_parse_arguments(ARG "" "SECONDS;CORPUS" "SOURCES;LIBS" ${ARGN})
+  if(NOT ARG_SECONDS)
+    set(ARG_SECONDS 10)
+  endif()
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE ${ARG_LIBS})
+  if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    target_compile_options(${name} PRIVATE -fsanitize=fuzzer)
+    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+  else()
+    target_link_libraries(${name} PRIVATE zel_fuzz_driver)
+  endif()
+  zel_set_warnings(${name})
+  set(_args -max_total_time=${ARG_SECONDS})
+  if(ARG_CORPUS)
+    get_filename_component(_corpus "${ARG_CORPUS}" ABSOLUTE)
+    list(APPEND _args "${_corpus}")
+  endif()
+  add_test(NAME ${name} COMMAND ${name} ${_args})
+  set_tests_properties(${name} PROPERTIES LABELS fuzz TIMEOUT 900)
+endfunction()
