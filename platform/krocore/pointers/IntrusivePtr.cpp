@@ -1,0 +1,7 @@
+#include <krocore/pointers/IntrusivePtr.h>
+
+namespace krocore {
+
+IntrusiveRefCounted::~IntrusiveRefCounted() = default;
+
+} // namespace krocore

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <krocore/Export.h>
+#include <krocore/utility/Result.h>
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace krocore::utility {
+
+/// Reads a whole file, refusing one larger than `maxBytes` before reading it,
+/// so that a hostile file cannot make the reader allocate without bound.
+KROCORE_API Result<std::string> ReadFileBytes(const std::filesystem::path& path, std::size_t maxBytes);
+
+/// Writes a file so that it is either the complete new content or untouched:
+/// the bytes go to a temporary file beside it, are flushed to the disk, and
+/// the temporary file is renamed over the old one only then.
+KROCORE_API Result<bool> WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes);
+
+} // namespace krocore::utility
