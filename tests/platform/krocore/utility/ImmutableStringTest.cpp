@@ -40,10 +40,13 @@ TEST(ImmutableString, KeepsEmbeddedZerosAndLongTexts) {
 }
 
 TEST(ImmutableString, IsInternedDoesNotIntern) {
-  EXPECT_FALSE(ImmutableString::IsInterned("never.seen.before.text"));
-  EXPECT_FALSE(ImmutableString::IsInterned("never.seen.before.text"));
-  ImmutableString("never.seen.before.text");
-  EXPECT_TRUE(ImmutableString::IsInterned("never.seen.before.text"));
+  // A text of its own on every run, so that repeated runs start afresh.
+  static int run = 0;
+  const std::string text = "never.seen.before." + std::to_string(++run);
+  EXPECT_FALSE(ImmutableString::IsInterned(text));
+  EXPECT_FALSE(ImmutableString::IsInterned(text));
+  ImmutableString{std::string_view(text)};
+  EXPECT_TRUE(ImmutableString::IsInterned(text));
 }
 
 TEST(ImmutableString, OrderingIsConsistentAndLexicalLessSortsText) {
