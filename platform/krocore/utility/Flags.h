@@ -10,7 +10,7 @@ namespace krocore::utility {
 template <typename T>
 class Flags {
 public:
-  using Underlying = std::conditional_t<std::is_enum_v<T>, std::underlying_type<T>, std::type_identity<T>>::type;
+  using Underlying = typename std::conditional_t<std::is_enum_v<T>, std::underlying_type<T>, std::type_identity<T>>::type;
   static_assert(std::is_unsigned_v<Underlying>, "Flags hold unsigned bits");
 
   constexpr Flags() noexcept = default;

@@ -1,0 +1,12 @@
+#include <kroui/ui/KeyboardCode.h>
+
+#include <kroui/ui/KeyTable.h>
+
+namespace kroui::ui {
+
+bool KeyboardCode::IsPrintable() const noexcept {
+  const KeyInfo* key = FindKey(*this);
+  return key != nullptr && key->IsPrintable();
+}
+
+} // namespace kroui::ui

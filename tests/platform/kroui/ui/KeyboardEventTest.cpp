@@ -1,0 +1,26 @@
+#include <kroui/ui/KeyTable.h>
+#include <kroui/ui/KeyboardEvent.h>
+
+#include <gtest/gtest.h>
+
+using kroui::ui::KeyboardEvent;
+
+namespace {
+
+TEST(KeyboardEvent, ActionsKeepTheNumbersShortcutDispatchRelyOn) {
+  EXPECT_EQ(KeyboardEvent::kAction_KeyDown, 1);
+  EXPECT_EQ(KeyboardEvent::kAction_KeyUp, 2);
+  EXPECT_EQ(KeyboardEvent::kAction_CharacterInput, 3);
+  EXPECT_EQ(KeyboardEvent().GetAction(), KeyboardEvent::kAction_None);
+}
+
+TEST(KeyboardEvent, OnlyAKeyDownRepeatsAndComposedTextHasNoKey) {
+  const kroui::ui::ModifierKeys control(kroui::ui::kModKey_Control);
+  EXPECT_TRUE(KeyboardEvent::MakeKeyDown(kroui::ui::kKey_K, control, true).IsAutoRepeat());
+  EXPECT_FALSE(KeyboardEvent::MakeKeyUp(kroui::ui::kKey_K, control).IsAutoRepeat());
+  const KeyboardEvent typed = KeyboardEvent::MakeCharacterInput(U'\u00E9', {});
+  EXPECT_TRUE(typed.GetCode().IsNone());
+  EXPECT_EQ(typed.GetCharacter(), U'\u00E9');
+}
+
+} // namespace
