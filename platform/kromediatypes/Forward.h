@@ -1,0 +1,10 @@
+#pragma once
+
+namespace kromediatypes {
+
+class TickTime;
+class FrameRate;
+class TimeDisplay;
+class TimeText;
+
+} // namespace kromediatypes
