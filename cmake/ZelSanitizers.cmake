@@ -17,3 +17,9 @@ if(ZEL_SANITIZE)
     add_compile_options(-fno-sanitize-recover=undefined)
   endif()
 endif()
+
+# Under clang, fuzzing instruments every library for coverage, so that
+# libFuzzer sees into the code the fuzz targets call.
+if(ZEL_BUILD_FUZZ AND CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()

@@ -41,6 +41,16 @@ private:
     return false;
   }
 
+  // Built step by step: GCC 12 warns wrongly (-Wrestrict) on a chain of + here.
+  static std::string Quoted(std::string_view text) {
+    std::string quoted;
+    quoted.reserve(text.size() + 2);
+    quoted.push_back('"');
+    quoted.append(text);
+    quoted.push_back('"');
+    return quoted;
+  }
+
   bool AtEnd() const { return mPos >= mText.size(); }
   char Peek() const { return AtEnd() ? '\0' : mText[mPos]; }
 
@@ -71,7 +81,7 @@ private:
       if (AtEnd()) return Error("expected '}' before the end of the text");
       std::string key;
       if (Peek() != '"' || !ReadString(key)) return Error("expected a quoted key");
-      if (list.Has(key)) return Error("the key \"" + key + "\" appears twice");
+      if (list.Has(key)) return Error("the key " + Quoted(key) + " appears twice");
       if (!Expect('=', "expected '=' after a key")) return false;
       PropValue value;
       if (!ReadValue(value, depth)) return false;
@@ -135,7 +145,7 @@ private:
     else if (word == "none") value = PropValue();
     else if (!ReadNumber(word, value)) {
       mPos = start;
-      return Error(word.empty() ? "expected a value" : "\"" + std::string(word) + "\" is not a value");
+      return Error(word.empty() ? std::string("expected a value") : Quoted(word) + " is not a value");
     }
     return true;
   }
