@@ -21,13 +21,14 @@
 // Counts heap allocations, so that the benchmarks can report them per press.
 static std::atomic<long long> sAllocations{0};
 
-void* operator new(std::size_t size) {
+// Not inlined: GCC would otherwise pair an inlined new with free() and warn.
+[[gnu::noinline]] void* operator new(std::size_t size) {
   ++sAllocations;
   if (void* p = std::malloc(size ? size : 1)) return p;
   throw std::bad_alloc();
 }
-void operator delete(void* p) noexcept { std::free(p); }
-void operator delete(void* p, std::size_t) noexcept { std::free(p); }
+[[gnu::noinline]] void operator delete(void* p) noexcept { std::free(p); }
+[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept { std::free(p); }
 
 namespace {
 
