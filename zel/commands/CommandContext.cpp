@@ -122,6 +122,15 @@ void CommandContext::ClearShortcuts() {
   Changed();
 }
 
+void CommandContext::ReplaceShortcuts(const std::map<std::string, std::vector<KeySpec>>& shortcutsByCommand) {
+  for (auto& [name, info] : mCommands) {
+    auto it = shortcutsByCommand.find(name);
+    if (it == shortcutsByCommand.end()) info.ClearShortcuts();
+    else info.SetShortcuts(it->second);
+  }
+  Changed();
+}
+
 const std::string& CommandContext::GetCommandNameFromID(std::int32_t id) const {
   auto it = mNamesByID.find(id);
   return it == mNamesByID.end() ? kNoName : it->second;

@@ -68,6 +68,8 @@ public:
   bool AddCommandShortcut(const std::string& name, const KeySpec& key);
   bool BlockCommandInContext(const std::string& name, const UTF8String& contextName);
   void ClearShortcuts();
+  /// Gives every command the shortcuts listed under its name, and none to the others.
+  void ReplaceShortcuts(const std::map<std::string, std::vector<KeySpec>>& shortcutsByCommand);
 
   const std::map<std::string, CommandInfo, std::less<>>& GetCommandNameMap() const noexcept { return mCommands; }
   const std::map<std::int32_t, std::string>& GetCommandIDMap() const noexcept { return mNamesByID; }

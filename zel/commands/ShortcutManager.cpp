@@ -19,6 +19,7 @@ void ShortcutManager::Initialize() {
   sInstance.reset(new ShortcutManager());
   sInstance->AddContext(kApplicationContextName, kApplicationContextName);
   sInstance->SetPreDispatchMap();
+  sInstance->RegisterBuiltInPresets();
 }
 
 void ShortcutManager::Finalize() { sInstance.reset(); }

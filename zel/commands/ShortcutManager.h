@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <set>
@@ -97,8 +98,33 @@ public:
   UTF8String GetTooltipShortcutText(std::int32_t commandID) const;
   UTF8String GetTooltipAndShortcutText(std::int32_t commandID) const;
 
+  // Shortcut sets: files of the user's shortcuts, one set per file. Presets
+  // ship with the host and are never overwritten.
+  static constexpr const char* kPreferenceShortcutsFilename = "FE.Prefs.Shortcuts.Filename";
+  static constexpr const char* kDefaultPresetName = "Default";
+  void SetShortcutSetFolders(std::filesystem::path userFolder, std::filesystem::path presetFolder);
+  void RegisterPreset(const std::string& name, const UTF8String& displayName);
+  /// Preset names with their display names, in registration order.
+  const std::vector<std::pair<std::string, UTF8String>>& GetPresets() const noexcept { return mPresets; }
+  bool IsPreset(const std::filesystem::path& path) const;
+  /// Writes every context's shortcuts to a set file; a preset's path is refused.
+  bool SaveSet(const std::filesystem::path& path);
+  /// Reads a set file and puts its shortcuts in force. A file that cannot be
+  /// used is named in a message box and changes nothing.
+  bool ReadSet(const std::filesystem::path& path);
+  /// The file of a set by name: the user's folder first, then the presets; empty when none.
+  std::filesystem::path ResolveSet(const std::string& name) const;
+  /// Reads a set by name and remembers it as the set in use.
+  bool LoadSet(const std::string& name);
+  /// Loads the set the preferences name, if any.
+  bool LoadInitialKeyset();
+  /// Reads the set in use again.
+  bool RefreshSet();
+  const std::string& GetCurrentSetName() const noexcept { return mCurrentSetName; }
+
 private:
   ShortcutManager();
+  void RegisterBuiltInPresets();
 
   bool TranslateKeyboardEvent(const kroui::ui::KeyboardEvent& event, bool preDispatch);
   bool TranslateKeyboardEvent(const KeySpec& key, bool keyDown, bool preDispatch);
@@ -123,6 +149,9 @@ private:
   std::map<std::int32_t, std::int32_t> mCommandGroups;
   std::string mDragContextName;
   bool mDragInProgress = false;
+  std::filesystem::path mUserSetFolder, mPresetSetFolder;
+  std::vector<std::pair<std::string, UTF8String>> mPresets;
+  std::string mCurrentSetName;
 };
 
 } // namespace ZEL
