@@ -16,6 +16,16 @@ function(zel_set_warnings target)
   endif()
 endfunction()
 
+# Adds the folders below the current one that mirror ZEL_COMPONENT_FOLDERS
+# (tests/platform/krocore, bench/zel, ...).
+function(zel_add_mirrored_subdirectories)
+  foreach(_dir IN LISTS ZEL_COMPONENT_FOLDERS)
+    if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${_dir}/CMakeLists.txt")
+      add_subdirectory(${_dir})
+    endif()
+  endforeach()
+endfunction()
+
 # zel_add_library(<name> ROOT <include root> EXPORT_MACRO <PREFIX> SOURCES ...
 #                 [PUBLIC_DEPS ...] [PRIVATE_DEPS ...])
 # A shared library with hidden default visibility: only what carries the
