@@ -3,10 +3,24 @@
 // Declarations of kroui's public types, for headers that only name them.
 
 namespace kroui::ui {
+class Cursor;
+class DataObject;
+struct DragSession;
+class EventLoop;
 class KeyboardCode;
 class KeyboardEvent;
 struct KeyInfo;
+struct LayoutBinding;
 struct MessageBoxRequest;
+struct OS_Event;
+struct PointerEvent;
+class ToolTipManager;
+class UI_Animator;
+class UI_Container;
+class UI_Node;
+class UI_Window;
+template <typename T>
+class RefCountedWeakPtr;
 } // namespace kroui::ui
 
 namespace kroui::ksv {
@@ -16,4 +30,10 @@ class ActionInfo;
 namespace kroui::backend {
 class Backend;
 class HeadlessBackend;
+struct MonitorInfo;
+struct WindowDescription;
 } // namespace kroui::backend
+
+namespace kroui::utility {
+class TimerQueue;
+} // namespace kroui::utility

@@ -1,13 +1,13 @@
+// HeadlessBackend: the keyboard and message boxes.
+
 #include <backends/headless/HeadlessBackend.h>
+#include <backends/headless/HeadlessStateImpl.h>
 
 #include <kroui/ui/KeyTable.h>
 
 #include <krocore/debug/Assert.h>
 
 #include <algorithm>
-#include <deque>
-#include <set>
-#include <vector>
 
 namespace kroui::backend {
 namespace {
@@ -42,14 +42,6 @@ std::uint32_t HeldKey(ui::KeyboardCode key) {
 
 } // namespace
 
-struct HeadlessBackend::State {
-  std::set<std::uint32_t> keysDown;
-  std::deque<int> answers;
-  std::vector<ui::MessageBoxRequest> shown;
-
-  bool IsHeld(ui::KeyboardCode key) const { return keysDown.contains(key.GetControlCode(false)); }
-};
-
 HeadlessBackend::HeadlessBackend() : mState(std::make_unique<State>()) {}
 
 HeadlessBackend::~HeadlessBackend() = default;
@@ -75,7 +67,7 @@ bool HeadlessBackend::IsKeyDown(std::uint32_t virtualKey) const {
   if (const ModifierSides* sides = FindGenericModifier(virtualKey)) {
     return mState->IsHeld(sides->left) || mState->IsHeld(sides->right);
   }
-  return mState->keysDown.contains(virtualKey);
+  return mState->LiveKeys().contains(virtualKey);
 }
 
 int HeadlessBackend::ShowMessageBox(const ui::MessageBoxRequest& request) {
@@ -118,6 +110,6 @@ std::size_t HeadlessBackend::GetQueuedAnswerCount() const { return mState->answe
 
 std::span<const ui::MessageBoxRequest> HeadlessBackend::GetShownMessageBoxes() const { return mState->shown; }
 
-void HeadlessBackend::Reset() { *mState = State(); }
+void HeadlessBackend::Reset() { mState = std::make_unique<State>(); }
 
 } // namespace kroui::backend

@@ -1,6 +1,13 @@
 #include <kroui/backend/Backend.h>
 
+#include <kroui/ui/EventLoop.h>
+#include <kroui/ui/OS_Event.h>
+
 #include <backends/headless/HeadlessBackend.h>
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
 
 namespace kroui::backend {
 namespace {
@@ -10,9 +17,67 @@ std::unique_ptr<Backend>& CurrentBackend() {
   return sBackend;
 }
 
+std::uint64_t sGeneration = 0;
+
 } // namespace
 
+// What a backend without its own event source waits on: a wake-up flag.
+struct Backend::WaitState {
+  std::mutex mutex;
+  std::condition_variable woken;
+  bool isWoken = false;
+};
+
+Backend::Backend() : mWaitState(std::make_unique<WaitState>()) {}
+
 Backend::~Backend() = default;
+
+HWND Backend::CreateNativeWindow(const WindowDescription&) { return nullptr; }
+void Backend::DestroyNativeWindow(HWND) {}
+void Backend::ShowNativeWindow(HWND, bool, bool) {}
+void Backend::SetNativeWindowBounds(HWND, const Rect&) {}
+Rect Backend::GetNativeWindowBounds(HWND) const { return {}; }
+void Backend::SetNativeWindowTitle(HWND, std::string_view) {}
+void Backend::MinimizeNativeWindow(HWND) {}
+void Backend::SetNativeWindowEnabled(HWND, bool) {}
+void Backend::SetNativeWindowAlpha(HWND, float) {}
+void Backend::FocusNativeWindow(HWND) {}
+HWND Backend::GetFocusedNativeWindow() const { return nullptr; }
+void Backend::PresentPixels(HWND, const drawbot::Image&, const Rect&) {}
+void Backend::SetCursor(ui::CursorPtr) {}
+void Backend::SetCapture(HWND) {}
+void Backend::ReleaseCapture() {}
+HWND Backend::GetCapture() const { return nullptr; }
+Point Backend::GetCursorPosition() const { return {}; }
+std::vector<MonitorInfo> Backend::GetMonitors() const { return {}; }
+std::string Backend::GetClipboardText() const { return {}; }
+void Backend::SetClipboardText(std::string_view) {}
+
+std::int64_t Backend::GetTimeMs() const {
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+}
+
+WaitResult Backend::WaitForEvent(ui::OS_Event&, std::optional<std::int64_t> timeoutMs) {
+  std::unique_lock lock(mWaitState->mutex);
+  const auto isWoken = [this] { return mWaitState->isWoken; };
+  bool woken = true;
+  if (timeoutMs) {
+    woken = mWaitState->woken.wait_for(lock, std::chrono::milliseconds(*timeoutMs), isWoken);
+  } else {
+    mWaitState->woken.wait(lock, isWoken);
+  }
+  mWaitState->isWoken = false;
+  return woken ? WaitResult::Woken : WaitResult::Timeout;
+}
+
+void Backend::WakeUp() {
+  {
+    std::lock_guard lock(mWaitState->mutex);
+    mWaitState->isWoken = true;
+  }
+  mWaitState->woken.notify_one();
+}
 
 Backend& GetBackend() {
   std::unique_ptr<Backend>& current = CurrentBackend();
@@ -21,7 +86,11 @@ Backend& GetBackend() {
 }
 
 void SetBackend(std::unique_ptr<Backend> backend) {
+  ++sGeneration;
+  ui::EventLoop::Instance().Reset();
   CurrentBackend() = std::move(backend);
 }
+
+std::uint64_t GetBackendGeneration() noexcept { return sGeneration; }
 
 } // namespace kroui::backend

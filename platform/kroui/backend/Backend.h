@@ -1,12 +1,25 @@
 #pragma once
 
 #include <kroui/Export.h>
+#include <kroui/backend/BackendTypes.h>
+#include <kroui/ui/Cursor.h>
 #include <kroui/ui/MessageBox.h>
 #include <kroui/ui/ModifierKeys.h>
 
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
+
+namespace kroui::drawbot {
+class Image;
+}
+
+namespace kroui::ui {
+struct OS_Event;
+}
 
 namespace kroui::backend {
 
@@ -14,10 +27,19 @@ namespace kroui::backend {
 /// asks the current backend, so the same code runs on a screen or headless:
 ///
 ///   kroui::utility::GetCurrentModKeys()  --+
-///   kroui::ui::ShowMessageBox(...)       --+-->  GetBackend()  -->  HeadlessBackend (tests, offscreen)
-///                                                                   or a backend with real windows
+///   kroui::ui::ShowMessageBox(...)       --+
+///   kroui::ui::UI_Window (windows, pixels)--+-->  GetBackend()  -->  HeadlessBackend (tests, offscreen)
+///   kroui::ui::EventLoop (events, clock)  --+                        or a backend with real windows
 ///
-/// Used on the UI thread only.
+/// A backend has top-level windows named by HWND, presents finished pixels
+/// into them, and is the event loop's source of events and of time. Window
+/// operations given a handle the backend does not know do nothing.
+///
+/// Only the first four operations are required. The others default to a
+/// backend without a window system: no window can be made (CreateNativeWindow
+/// answers null), no monitor or clipboard exists, the clock is the steady
+/// clock and waiting sleeps until woken or timed out; every backend with
+/// screens overrides them all. Used on the UI thread only, except WakeUp.
 class KROUI_API Backend {
 public:
   virtual ~Backend();
@@ -38,15 +60,68 @@ public:
   /// request's type always names an existing button set.
   virtual int ShowMessageBox(const ui::MessageBoxRequest& request) = 0;
 
+  // Top-level windows. Bounds are the client area in screen coordinates.
+  /// Null when no window can be made.
+  virtual HWND CreateNativeWindow(const WindowDescription& description);
+  virtual void DestroyNativeWindow(HWND window);
+  /// Shows (activating it unless its style says not to, or `activate` is false) or hides.
+  virtual void ShowNativeWindow(HWND window, bool show, bool activate);
+  virtual void SetNativeWindowBounds(HWND window, const Rect& bounds);
+  virtual Rect GetNativeWindowBounds(HWND window) const;
+  virtual void SetNativeWindowTitle(HWND window, std::string_view utf8);
+  virtual void MinimizeNativeWindow(HWND window);
+  virtual void SetNativeWindowEnabled(HWND window, bool enabled);
+  /// The opacity of a layered window, 0 to 1.
+  virtual void SetNativeWindowAlpha(HWND window, float alpha);
+  /// Gives the window the keyboard focus (activates it).
+  virtual void FocusNativeWindow(HWND window);
+  virtual HWND GetFocusedNativeWindow() const;
+  /// Shows finished pixels: `pixels` covers the whole client area, `changed` is the part that differs.
+  virtual void PresentPixels(HWND window, const drawbot::Image& pixels, const Rect& changed);
+
+  // Pointer.
+  /// Null shows the system arrow.
+  virtual void SetCursor(ui::CursorPtr cursor);
+  /// Sends every pointer event to `window` until released, wherever the pointer is.
+  virtual void SetCapture(HWND window);
+  virtual void ReleaseCapture();
+  virtual HWND GetCapture() const;
+  /// Where the pointer is, in screen coordinates.
+  virtual Point GetCursorPosition() const;
+
+  // The desktop.
+  /// Every display; the primary one first.
+  virtual std::vector<MonitorInfo> GetMonitors() const;
+  virtual std::string GetClipboardText() const;
+  virtual void SetClipboardText(std::string_view utf8);
+
+  // Events and time.
+  /// The event loop's clock, in milliseconds from an arbitrary start.
+  virtual std::int64_t GetTimeMs() const;
+  /// Takes the next event into `event`, waiting up to `timeoutMs` (forever
+  /// when empty) for one to arrive. Returns early, with Woken, after WakeUp.
+  virtual WaitResult WaitForEvent(ui::OS_Event& event, std::optional<std::int64_t> timeoutMs);
+  /// Ends a WaitForEvent in progress, or the next one. Any thread.
+  virtual void WakeUp();
+
 protected:
-  Backend() = default;
+  Backend();
+
+private:
+  struct WaitState;
+  std::unique_ptr<WaitState> mWaitState;
 };
 
 /// The current backend; the headless one is made on first use when none was set.
 KROUI_API Backend& GetBackend();
 
 /// Replaces the current backend, destroying the previous one. Null drops it,
-/// so that the next GetBackend() makes a fresh default.
+/// so that the next GetBackend() makes a fresh default. The event loop's
+/// timers and quit request go with it: they were set on the old backend's clock.
 KROUI_API void SetBackend(std::unique_ptr<Backend> backend);
+
+/// Counts replacements of the backend, so that a window can tell whether the
+/// backend that made its handle is still the current one.
+KROUI_API std::uint64_t GetBackendGeneration() noexcept;
 
 } // namespace kroui::backend

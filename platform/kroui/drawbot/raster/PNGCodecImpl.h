@@ -1,0 +1,21 @@
+#pragma once
+
+#include <kroui/drawbot/Image.h>
+
+#include <krocore/utility/Result.h>
+
+#include <cairo.h>
+
+#include <filesystem>
+
+namespace kroui::drawbot::raster {
+
+krocore::utility::Result<bool> WriteSurfacePNG(cairo_surface_t* surface, const std::filesystem::path& path);
+krocore::utility::Result<bool> WriteImagePNG(const Image& image, const std::filesystem::path& path);
+/// Any PNG Cairo reads, as premultiplied ARGB whatever its own format.
+krocore::utility::Result<Image> ReadImagePNG(const std::filesystem::path& path);
+
+/// The pixels of an ARGB32 surface, copied out of its padded rows.
+Image CopySurfacePixels(cairo_surface_t* surface);
+
+} // namespace kroui::drawbot::raster
