@@ -18,3 +18,6 @@
 #include <zel/commands/ShortcutSetFile.h>
 #include <zel/commands/SyntheticCommand.h>
 #include <zel/views/MessageBox.h>
+#include <zel/appearance/ColorManager.h>
+#include <zel/appearance/ThemeChangedMessage.h>
+#include <zel/appearance/ThemeResources.h>

@@ -7,6 +7,8 @@ namespace krocore {
 class IntrusiveRefCounted;
 template <typename T>
 class IntrusivePtr;
+class UTF16OutputStream;
+class StringUTF16OutputStream;
 } // namespace krocore
 
 namespace krocore::utility {

@@ -35,5 +35,23 @@ struct WindowDescription;
 } // namespace kroui::backend
 
 namespace kroui::utility {
+class CursorCanvas;
+class OS_ResourceManager;
+class ResourceManager;
 class TimerQueue;
 } // namespace kroui::utility
+
+// The theme engine and skins.
+namespace kroui::ui {
+class ColorTrack;
+class DTDEntities;
+class Theme;
+class ThemeChangedFunctionHandle;
+class ThemeReader;
+struct KeyFrame;
+struct ThemeDocument;
+} // namespace kroui::ui
+
+namespace kroui::skins::core {
+class SkinManager;
+} // namespace kroui::skins::core
