@@ -74,6 +74,7 @@ public:
   HWND GetFocusedNativeWindow() const override;
   void PresentPixels(HWND window, const drawbot::Image& pixels, const Rect& changed) override;
   void SetCursor(ui::CursorPtr cursor) override;
+  void SetCursorVisible(bool visible) override;
   void SetCapture(HWND window) override;
   void ReleaseCapture() override;
   HWND GetCapture() const override;
@@ -114,6 +115,7 @@ public:
   void SetMonitors(std::vector<MonitorInfo> monitors);
   ui::CursorPtr GetCurrentCursor() const;
   std::size_t GetCursorChangeCount() const;
+  bool IsCursorVisible() const;
 
   // The clock.
   void AdvanceClock(std::int64_t ms);

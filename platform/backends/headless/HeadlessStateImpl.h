@@ -37,6 +37,7 @@ struct HeadlessBackend::State {
   std::vector<MonitorInfo> monitors;
   ui::CursorPtr cursor;
   std::size_t cursorChanges = 0;
+  bool isCursorVisible = true;
   std::string clipboard;
 
   // Input and time. A scripted key event carries the keys held while it is

@@ -171,6 +171,10 @@ ui::CursorPtr HeadlessBackend::GetCurrentCursor() const { return mState->cursor;
 
 std::size_t HeadlessBackend::GetCursorChangeCount() const { return mState->cursorChanges; }
 
+void HeadlessBackend::SetCursorVisible(bool visible) { mState->isCursorVisible = visible; }
+
+bool HeadlessBackend::IsCursorVisible() const { return mState->isCursorVisible; }
+
 void HeadlessBackend::SetCapture(HWND window) {
   if (window && !mState->Find(window)) return;
   const HWND previous = std::exchange(mState->capture, window);

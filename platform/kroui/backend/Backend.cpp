@@ -45,6 +45,7 @@ void Backend::FocusNativeWindow(HWND) {}
 HWND Backend::GetFocusedNativeWindow() const { return nullptr; }
 void Backend::PresentPixels(HWND, const drawbot::Image&, const Rect&) {}
 void Backend::SetCursor(ui::CursorPtr) {}
+void Backend::SetCursorVisible(bool) {}
 void Backend::SetCapture(HWND) {}
 void Backend::ReleaseCapture() {}
 HWND Backend::GetCapture() const { return nullptr; }

@@ -82,6 +82,8 @@ public:
   // Pointer.
   /// Null shows the system arrow.
   virtual void SetCursor(ui::CursorPtr cursor);
+  /// Hides or shows the pointer over every window; kroui counts nested hides before asking.
+  virtual void SetCursorVisible(bool visible);
   /// Sends every pointer event to `window` until released, wherever the pointer is.
   virtual void SetCapture(HWND window);
   virtual void ReleaseCapture();

@@ -87,4 +87,8 @@ krocore::utility::Result<Image> ReadPNG(const std::filesystem::path& path) {
   return raster::ReadImagePNG(path);
 }
 
+krocore::utility::Result<Image> DecodePNG(std::span<const unsigned char> bytes) {
+  return raster::DecodeImagePNG(bytes);
+}
+
 } // namespace kroui::drawbot

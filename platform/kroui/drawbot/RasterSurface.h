@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <span>
 
 namespace kroui::drawbot {
 
@@ -49,5 +50,7 @@ private:
 /// PNG files to and from images, through the same library the raster surface uses.
 KROUI_API krocore::utility::Result<bool> WritePNG(const Image& image, const std::filesystem::path& path);
 KROUI_API krocore::utility::Result<Image> ReadPNG(const std::filesystem::path& path);
+/// The same for PNG bytes in memory (a resource compiled into a module).
+KROUI_API krocore::utility::Result<Image> DecodePNG(std::span<const unsigned char> bytes);
 
 } // namespace kroui::drawbot

@@ -3,6 +3,7 @@
 #include <kroui/ui/UI_Window.h>
 
 #include <kroui/backend/Backend.h>
+#include <kroui/ui/Cursor.h>
 #include <kroui/ui/KeyTable.h>
 #include <kroui/ui/UI_NodeExtras.h>
 
@@ -101,6 +102,7 @@ void UI_Window::DispatchMove(const OS_Event& event) {
   // While a node holds the capture, the pointer stays "over" it: no enter or leave.
   if (!mCapture) UpdateHover(mRoot->HitTest(event.position), pointer);
   Deliver(PointerTarget(event.position), pointer);
+  NotePointerMoved();
   UpdateCursor(pointer);
 }
 
@@ -204,7 +206,10 @@ void UI_Window::UpdateCursor(const PointerEvent& event) {
     local.position = node->WindowToLocal(event.windowPosition);
     if (node->SetCursorSelf(local)) return;
   }
-  backend::GetBackend().SetCursor(nullptr);
+  // A cursor set to stay (a tool's, a drag's) is not replaced by the arrow.
+  const bool isButtonDown =
+      std::any_of(std::begin(mPressed), std::end(mPressed), [](UI_Node* n) { return n != nullptr; });
+  if (!IsCursorHeld(isButtonDown)) backend::GetBackend().SetCursor(nullptr);
 }
 
 bool UI_Window::SetCaptureNode(UI_Node* node) {

@@ -24,6 +24,34 @@ std::string Describe(const char* action, const std::filesystem::path& path, cair
          cairo_status_to_string(status);
 }
 
+/// Feeds Cairo's PNG reader from memory.
+struct ByteReader {
+  std::span<const unsigned char> rest;
+
+  static cairo_status_t Read(void* closure, unsigned char* data, unsigned int length) {
+    auto& reader = *static_cast<ByteReader*>(closure);
+    if (length > reader.rest.size()) return CAIRO_STATUS_READ_ERROR;
+    std::memcpy(data, reader.rest.data(), length);
+    reader.rest = reader.rest.subspan(length);
+    return CAIRO_STATUS_SUCCESS;
+  }
+};
+
+/// Greyscale, opaque and palette files all arrive as premultiplied ARGB; takes `loaded`.
+Image TakeAsARGB(cairo_surface_t* loaded) {
+  const int width = cairo_image_surface_get_width(loaded), height = cairo_image_surface_get_height(loaded);
+  cairo_surface_t* argb = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height);
+  cairo_t* cairo = cairo_create(argb);
+  cairo_set_operator(cairo, CAIRO_OPERATOR_SOURCE);
+  cairo_set_source_surface(cairo, loaded, 0, 0);
+  cairo_paint(cairo);
+  cairo_destroy(cairo);
+  Image image = CopySurfacePixels(argb);
+  cairo_surface_destroy(argb);
+  cairo_surface_destroy(loaded);
+  return image;
+}
+
 } // namespace
 
 Image CopySurfacePixels(cairo_surface_t* surface) {
@@ -65,18 +93,18 @@ Result<Image> ReadImagePNG(const std::filesystem::path& path) {
     cairo_surface_destroy(loaded);
     return Result<Image>::Failure(Describe("read", path, status));
   }
-  // Greyscale, opaque and palette files all arrive as premultiplied ARGB.
-  const int width = cairo_image_surface_get_width(loaded), height = cairo_image_surface_get_height(loaded);
-  cairo_surface_t* argb = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height);
-  cairo_t* cairo = cairo_create(argb);
-  cairo_set_operator(cairo, CAIRO_OPERATOR_SOURCE);
-  cairo_set_source_surface(cairo, loaded, 0, 0);
-  cairo_paint(cairo);
-  cairo_destroy(cairo);
-  Image image = CopySurfacePixels(argb);
-  cairo_surface_destroy(argb);
-  cairo_surface_destroy(loaded);
-  return Result<Image>::Success(std::move(image));
+  return Result<Image>::Success(TakeAsARGB(loaded));
+}
+
+Result<Image> DecodeImagePNG(std::span<const unsigned char> bytes) {
+  ByteReader reader{bytes};
+  cairo_surface_t* loaded = cairo_image_surface_create_from_png_stream(&ByteReader::Read, &reader);
+  const cairo_status_t status = cairo_surface_status(loaded);
+  if (status != CAIRO_STATUS_SUCCESS) {
+    cairo_surface_destroy(loaded);
+    return Result<Image>::Failure(std::string("Could not decode PNG data: ") + cairo_status_to_string(status));
+  }
+  return Result<Image>::Success(TakeAsARGB(loaded));
 }
 
 } // namespace kroui::drawbot::raster

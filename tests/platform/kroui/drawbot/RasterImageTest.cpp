@@ -4,6 +4,8 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <span>
 
 namespace {
 
@@ -134,6 +136,21 @@ TEST_F(PNGFiles, SayWhatWentWrong) {
   const auto nowhere = WritePNG(Quadrants(), mDirectory / "no" / "such" / "folder.png");
   ASSERT_FALSE(nowhere);
   EXPECT_NE(nowhere.Error().find("folder.png"), std::string::npos) << nowhere.Error();
+}
+
+TEST_F(PNGFiles, DecodeFromMemoryAsFromAFile) {
+  const auto path = mDirectory / "bytes.png";
+  ASSERT_TRUE(WritePNG(Translucent(), path));
+  std::ifstream in(path, std::ios::binary);
+  const std::vector<unsigned char> bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  const auto decoded = DecodePNG(bytes);
+  ASSERT_TRUE(decoded) << decoded.Error();
+  EXPECT_TRUE(AreIdentical(decoded.Value(), Translucent()));
+
+  EXPECT_FALSE(DecodePNG(std::span(bytes).first(bytes.size() / 2))) << "truncated";
+  const std::string text = "not a picture";
+  EXPECT_FALSE(DecodePNG(std::span(reinterpret_cast<const unsigned char*>(text.data()), text.size())));
+  EXPECT_FALSE(DecodePNG({}));
 }
 
 } // namespace
