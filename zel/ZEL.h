@@ -21,3 +21,16 @@
 #include <zel/appearance/ColorManager.h>
 #include <zel/appearance/ThemeChangedMessage.h>
 #include <zel/appearance/ThemeResources.h>
+#include <zel/views/BackgroundView.h>
+#include <zel/views/ControlView.h>
+#include <zel/views/DC.h>
+#include <zel/views/DCState.h>
+#include <zel/views/StatusBar.h>
+#include <zel/views/StatusBarMessages.h>
+#include <zel/views/SubView.h>
+#include <zel/views/ViewBase.h>
+#include <zel/appearance/Cursor.h>
+#include <zel/views/Application.h>
+#include <zel/views/OverlayView.h>
+#include <zel/views/ScrollBar.h>
+#include <zel/views/ScrollBarMessages.h>

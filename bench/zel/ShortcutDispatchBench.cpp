@@ -11,6 +11,10 @@
 
 #include <benchmark/benchmark.h>
 
+#include "AllocationCounter.h"
+
+#include <malloc.h>
+
 #include <atomic>
 #include <cstdlib>
 #include <memory>
@@ -18,17 +22,38 @@
 #include <string>
 #include <vector>
 
-// Counts heap allocations, so that the benchmarks can report them per press.
-static std::atomic<long long> sAllocations{0};
+// Counts heap allocations, so that the benchmarks can report them per press,
+// and the bytes held, for the benchmarks of memory per object
+// (AllocationCounter.h shares both with the other files of zel_bench).
+namespace ZELBench {
+std::atomic<long long> sAllocations{0};
+std::atomic<long long> sLiveBytes{0};
+} // namespace ZELBench
+
+using ZELBench::sAllocations;
 
 // Not inlined: GCC would otherwise pair an inlined new with free() and warn.
 [[gnu::noinline]] void* operator new(std::size_t size) {
   ++sAllocations;
-  if (void* p = std::malloc(size ? size : 1)) return p;
+  if (void* p = std::malloc(size ? size : 1)) {
+    ZELBench::sLiveBytes += static_cast<long long>(malloc_usable_size(p));
+    return p;
+  }
   throw std::bad_alloc();
 }
-[[gnu::noinline]] void operator delete(void* p) noexcept { std::free(p); }
-[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept { std::free(p); }
+// The standard library asks for temporary buffers without exceptions; they come
+// back through the delete below, so they must come from malloc as well.
+[[gnu::noinline]] void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  ++sAllocations;
+  void* p = std::malloc(size ? size : 1);
+  if (p) ZELBench::sLiveBytes += static_cast<long long>(malloc_usable_size(p));
+  return p;
+}
+[[gnu::noinline]] void operator delete(void* p) noexcept {
+  if (p) ZELBench::sLiveBytes -= static_cast<long long>(malloc_usable_size(p));
+  std::free(p);
+}
+[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept { operator delete(p); }
 
 namespace {
 

@@ -100,6 +100,8 @@ public:
   /// Paints the invalid region now and presents it; does nothing when nothing is invalid.
   void PaintNow();
   /// Filled under the root before anything paints (opaque white by default).
+  /// A translucent one is not blended: the window is painted whole from pixels
+  /// set to it, so that a layer over other windows can be transparent.
   void SetBackgroundColor(const drawbot::ColorRGBA& color);
   /// How many paints ran, for tests and statistics.
   std::uint64_t GetPaintCount() const noexcept { return mPaintCount; }

@@ -22,6 +22,14 @@ void UI_Window::PaintInvalid() {
     mSurface = std::make_unique<Surface>(extent.width, extent.height);
     mInvalid.assign(1, mRoot->GetLocalBounds());
   }
+  // A translucent background (a layer over other windows) is painted whole,
+  // from pixels set to it: blending it over what was shown before would keep
+  // pixels that have since turned transparent.
+  const bool isTranslucent = mBackground.alpha < 1.f;
+  if (isTranslucent) {
+    mSurface->raster.Clear(mBackground);
+    mInvalid.assign(1, mRoot->GetLocalBounds());
+  }
   mIsPainting = true;
   const std::vector<Rect> areas = std::move(mInvalid);
   mInvalid.clear();
@@ -32,7 +40,7 @@ void UI_Window::PaintInvalid() {
                               static_cast<float>(area.Width()), static_cast<float>(area.Height())};
     drawbot.Save();
     drawbot.ClipRect(clip);
-    drawbot.FillRect(clip, mBackground);
+    if (!isTranslucent) drawbot.FillRect(clip, mBackground);
     NodePainter::PaintNode(*mRoot, drawbot, area);
     drawbot.Restore();
     changed = changed.Union(area);

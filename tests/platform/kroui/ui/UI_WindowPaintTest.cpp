@@ -230,3 +230,20 @@ TEST_F(UI_WindowPaint, AWindowSceneLooksAsCommitted) {
 }
 
 } // namespace
+
+namespace {
+
+// A layer over other windows: what turned transparent must not keep the
+// pixels painted there before, as blending a clear background would.
+TEST_F(UI_WindowPaint, ATranslucentBackgroundRepaintsFromClearPixels) {
+  window->SetBackgroundColor({0.f, 0.f, 0.f, 0.f});
+  window->GetRoot().Invalidate();
+  Pump();
+  EXPECT_NE(Pixels().PixelAt(20, 20), 0u) << "the red node";
+  EXPECT_EQ(Pixels().PixelAt(150, 80), 0u) << "nothing painted: transparent";
+  red->Hide();
+  Pump();
+  EXPECT_EQ(Pixels().PixelAt(20, 20), 0u);
+}
+
+} // namespace
