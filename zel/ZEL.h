@@ -34,3 +34,4 @@
 #include <zel/views/OverlayView.h>
 #include <zel/views/ScrollBar.h>
 #include <zel/views/ScrollBarMessages.h>
+#include <zel/views/PlatformView.h>

@@ -50,6 +50,17 @@ public:
     std::size_t presentCount = 0;
   };
 
+  /// What a headless child surface is.
+  struct ChildSurfaceRecord {
+    HWND parent = nullptr;
+    /// In the parent's client coordinates.
+    Rect bounds;
+    bool isGPUAccelerated = false;
+    bool isShown = false;
+    float opacity = 1.f;
+    bool isClipped = false;
+  };
+
   HeadlessBackend();
   ~HeadlessBackend() override;
 
@@ -73,6 +84,13 @@ public:
   void FocusNativeWindow(HWND window) override;
   HWND GetFocusedNativeWindow() const override;
   void PresentPixels(HWND window, const drawbot::Image& pixels, const Rect& changed) override;
+  HWND CreateChildSurface(HWND parent, const Rect& bounds, bool gpuAccelerated) override;
+  void DestroyChildSurface(HWND surface) override;
+  bool SetChildSurfaceParent(HWND surface, HWND parent) override;
+  void SetChildSurfaceBounds(HWND surface, const Rect& bounds) override;
+  void ShowChildSurface(HWND surface, bool show) override;
+  void SetChildSurfaceOpacity(HWND surface, float opacity) override;
+  void SetChildSurfaceClipping(HWND surface, bool clipped) override;
   void SetCursor(ui::CursorPtr cursor) override;
   void SetCursorVisible(bool visible) override;
   void SetCapture(HWND window) override;
@@ -108,6 +126,10 @@ public:
   std::vector<HWND> GetWindowStack() const;
   /// The pixels last presented to the window (invalid before the first present).
   drawbot::Image GetWindowImage(HWND window) const;
+  /// Null for a handle that is not a live child surface.
+  const ChildSurfaceRecord* FindChildSurface(HWND surface) const;
+  /// The live child surfaces of a window, oldest first.
+  std::vector<HWND> GetChildSurfaces(HWND window) const;
   krocore::utility::Result<bool> WriteWindowPNG(HWND window, const std::filesystem::path& path) const;
 
   // The desktop.

@@ -28,6 +28,8 @@ struct HeadlessBackend::State {
 
   // Windows, by the number their handle carries.
   std::map<std::uintptr_t, HeadlessWindow> windows;
+  /// Child surfaces share the numbering, so that no handle names both kinds.
+  std::map<std::uintptr_t, ChildSurfaceRecord> surfaces;
   std::uintptr_t nextWindow = 1;
   std::uint64_t nextRaise = 1;
   HWND focus = nullptr;
@@ -66,6 +68,7 @@ struct HeadlessBackend::State {
   bool IsHeld(ui::KeyboardCode key) const { return LiveKeys().contains(key.GetControlCode(false)); }
   HeadlessWindow* Find(HWND window);
   const HeadlessWindow* Find(HWND window) const;
+  ChildSurfaceRecord* FindSurface(HWND surface);
   /// The shown, not minimised window at a screen point, topmost first.
   HWND WindowAt(Point screen) const;
   /// Queues an event stamped with the clock.

@@ -62,6 +62,8 @@ HWND HeadlessBackend::CreateNativeWindow(const WindowDescription& description) {
 
 void HeadlessBackend::DestroyNativeWindow(HWND window) {
   if (!mState->windows.erase(HandleNumber(window))) return;
+  // Its child surfaces go with it, as native children do.
+  std::erase_if(mState->surfaces, [window](const auto& entry) { return entry.second.parent == window; });
   // A window that is gone hears nothing more, and holds neither focus nor capture.
   std::erase_if(mState->events, [window](const State::QueuedEvent& queued) { return queued.event.window == window; });
   if (mState->focus == window) mState->focus = nullptr;

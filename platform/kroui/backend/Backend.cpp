@@ -44,6 +44,13 @@ void Backend::SetNativeWindowAlpha(HWND, float) {}
 void Backend::FocusNativeWindow(HWND) {}
 HWND Backend::GetFocusedNativeWindow() const { return nullptr; }
 void Backend::PresentPixels(HWND, const drawbot::Image&, const Rect&) {}
+HWND Backend::CreateChildSurface(HWND, const Rect&, bool) { return nullptr; }
+void Backend::DestroyChildSurface(HWND) {}
+bool Backend::SetChildSurfaceParent(HWND, HWND) { return false; }
+void Backend::SetChildSurfaceBounds(HWND, const Rect&) {}
+void Backend::ShowChildSurface(HWND, bool) {}
+void Backend::SetChildSurfaceOpacity(HWND, float) {}
+void Backend::SetChildSurfaceClipping(HWND, bool) {}
 void Backend::SetCursor(ui::CursorPtr) {}
 void Backend::SetCursorVisible(bool) {}
 void Backend::SetCapture(HWND) {}

@@ -79,6 +79,21 @@ public:
   /// Shows finished pixels: `pixels` covers the whole client area, `changed` is the part that differs.
   virtual void PresentPixels(HWND window, const drawbot::Image& pixels, const Rect& changed);
 
+  // Child surfaces: native windows inside a top-level window, for content
+  // others draw (video, web). Bounds are in the parent's client coordinates;
+  // a surface is made hidden, opaque and unclipped, and goes with its parent.
+  /// Null when no surface can be made (the default).
+  virtual HWND CreateChildSurface(HWND parent, const Rect& bounds, bool gpuAccelerated);
+  virtual void DestroyChildSurface(HWND surface);
+  /// Moves the surface into another top-level window; false when either is gone.
+  virtual bool SetChildSurfaceParent(HWND surface, HWND parent);
+  virtual void SetChildSurfaceBounds(HWND surface, const Rect& bounds);
+  virtual void ShowChildSurface(HWND surface, bool show);
+  /// 0 to 1.
+  virtual void SetChildSurfaceOpacity(HWND surface, float opacity);
+  /// Whether the parent window's other content over the surface clips it.
+  virtual void SetChildSurfaceClipping(HWND surface, bool clipped);
+
   // Pointer.
   /// Null shows the system arrow.
   virtual void SetCursor(ui::CursorPtr cursor);

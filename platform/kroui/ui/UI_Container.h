@@ -11,7 +11,10 @@ namespace kroui::ui {
 
 /// A node that holds children, in z-order: the first child is painted first
 /// and hit last. The container owns its children; a child knows its parent
-/// only by a plain pointer, cleared when it is taken out.
+/// only by a plain pointer, cleared when it is taken out, and its slot in the
+/// list. Taking a child out empties its slot in O(1) (the last slot is
+/// dropped); the list is closed up before it is next read, so that removing
+/// n children costs O(n), not O(n^2), and readers always see it dense.
 ///
 ///   container
 ///     child 0   (bottom: painted first)
@@ -32,7 +35,7 @@ public:
   void RemoveAllChildren();
 
   std::span<const UI_NodePtr> GetChildNodes() const override;
-  std::size_t GetChildCount() const noexcept { return mChildren.size(); }
+  std::size_t GetChildCount() const noexcept { return mChildren.size() - mHoles; }
   UI_Node* GetChildAt(std::size_t index) const noexcept;
   /// The z-position of `child`, or kTop when it is not a child.
   std::size_t IndexOf(const UI_Node& child) const noexcept;
@@ -51,8 +54,16 @@ private:
   /// Applies the children's layout bindings after this container went from `before` to its size now.
   void LayoutChildren(Extent before);
   void Detach(std::size_t index);
+  /// The slot `child` holds, holes counted, or kTop.
+  std::size_t SlotOf(const UI_Node& child) const noexcept;
+  /// Empties a slot; dropped at once when it is the last.
+  void Vacate(std::size_t slot);
+  /// Closes the holes, so that slots are z-positions again.
+  void Compact() const;
+  void Renumber(std::size_t from) const;
 
-  std::vector<UI_NodePtr> mChildren;
+  mutable std::vector<UI_NodePtr> mChildren;
+  mutable std::size_t mHoles = 0;
 };
 
 } // namespace kroui::ui

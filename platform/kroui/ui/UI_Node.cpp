@@ -7,14 +7,26 @@
 #include <kroui/ui/UI_NodeExtras.h>
 #include <kroui/ui/UI_Window.h>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace kroui::ui {
+namespace {
+
+/// The nodes that track their placement. Usually empty, so a move costs one test.
+std::vector<UI_Node*>& PlacementTrackers() {
+  static std::vector<UI_Node*> sTrackers;
+  return sTrackers;
+}
+
+} // namespace
 
 UI_Node::UI_Node()
     : mFlags(kFlag_Shown | kFlag_Enabled | kFlag_ClipToSelf | kFlag_BindLeft | kFlag_BindTop) {}
 
 UI_Node::~UI_Node() {
+  if (Has(kFlag_TracksPlacement)) std::erase(PlacementTrackers(), this);
   if (Has(kFlag_HasTimers)) EventLoop::Instance().GetTimers().CancelOwner(this);
   if (mExtras && mExtras->anchor) mExtras->anchor->node = nullptr;
 }
@@ -50,6 +62,33 @@ void UI_Node::SetBounds(const Rect& bounds) {
   }
   if (IsShown()) InvalidateInParent(bounds);
   SetBoundsSelf(bounds);
+  NotifyPlacementChanged();
+}
+
+void UI_Node::SetTracksPlacement(bool track) {
+  if (track == TracksPlacement()) return;
+  SetFlag(kFlag_TracksPlacement, track);
+  if (track) {
+    PlacementTrackers().push_back(this);
+  } else {
+    std::erase(PlacementTrackers(), this);
+  }
+}
+
+void UI_Node::NotifyPlacementChanged() {
+  if (PlacementTrackers().empty()) return;
+  // A hook may add or drop trackers: collect first, and keep them alive.
+  std::vector<UI_NodePtr> moved;
+  for (UI_Node* tracker : PlacementTrackers()) {
+    for (const UI_Node* node = tracker; node; node = node->mParent) {
+      if (node != this) continue;
+      moved.emplace_back(tracker);
+      break;
+    }
+  }
+  for (const UI_NodePtr& tracker : moved) {
+    if (tracker->TracksPlacement()) tracker->PlacementChangedSelf();
+  }
 }
 
 void UI_Node::Move(Point origin) { SetBounds(Rect::FromOriginAndExtent(origin, mBounds.Extent())); }
@@ -154,13 +193,17 @@ void UI_Node::EnableDoubleBuffering(bool enable) {
 void UI_Node::NotifyVisibilityChanged() {
   const UI_NodePtr keep(this);
   VisibilityChangedSelf();
-  for (const UI_NodePtr& child : GetChildNodes()) child->NotifyVisibilityChanged();
+  for (const UI_NodePtr& child : GetChildNodes()) {
+    if (child) child->NotifyVisibilityChanged(); // a hook may have taken a sibling out
+  }
 }
 
 void UI_Node::NotifyEnabledChanged() {
   const UI_NodePtr keep(this);
   EnabledChangedSelf();
-  for (const UI_NodePtr& child : GetChildNodes()) child->NotifyEnabledChanged();
+  for (const UI_NodePtr& child : GetChildNodes()) {
+    if (child) child->NotifyEnabledChanged();
+  }
 }
 
 // Painting.
@@ -366,6 +409,7 @@ std::string UI_Node::GetToolTipTextSelf() const { return {}; }
 bool UI_Node::DisplaysToolTipForChildSelf(const UI_Node*) const { return false; }
 void UI_Node::SetBoundsSelf(const Rect&) {}
 void UI_Node::VisibilityChangedSelf() {}
+void UI_Node::PlacementChangedSelf() {}
 void UI_Node::EnabledChangedSelf() {}
 
 } // namespace kroui::ui

@@ -110,6 +110,10 @@ public:
   /// Whether a pen's events arrive as pen events (on) or as plain mouse events (off, the default).
   void SetTabletPenEvents(bool wants) { SetFlag(kFlag_TabletPen, wants); }
   bool GetTabletPenEvents() const noexcept { return Has(kFlag_TabletPen); }
+  /// Asks for PlacementChangedSelf whenever the node's place in its window
+  /// may have changed (off by default: few nodes need it, and each costs every move a look).
+  void SetTracksPlacement(bool track);
+  bool TracksPlacement() const noexcept { return Has(kFlag_TracksPlacement); }
 
   // Painting.
   void Invalidate();
@@ -235,6 +239,9 @@ protected:
   virtual void SetBoundsSelf(const Rect& bounds);
   /// After this node or an ancestor was shown or hidden.
   virtual void VisibilityChangedSelf();
+  /// For a node that tracks its placement: after it or an ancestor moved or
+  /// was resized, or it entered or left a tree.
+  virtual void PlacementChangedSelf();
   /// After this node or an ancestor was enabled or disabled.
   virtual void EnabledChangedSelf();
 
@@ -264,6 +271,7 @@ private:
     kFlag_BindHeight = 1u << 16,
     kFlag_HasTimers = 1u << 17,
     kFlag_IsContainer = 1u << 18,
+    kFlag_TracksPlacement = 1u << 19,
   };
 
   bool Has(std::uint32_t flag) const noexcept { return (mFlags & flag) != 0; }
@@ -275,11 +283,15 @@ private:
   /// Invalidates an area given in the parent's coordinates (the window's, for a root).
   void InvalidateInParent(const Rect& area);
   void NotifyVisibilityChanged();
+  /// Tells the tracking nodes at or under this one that their placement changed.
+  void NotifyPlacementChanged();
   void NotifyEnabledChanged();
   void FireTimer(unsigned timerID);
 
   // The flags come first so that they fill the padding after the reference count.
   std::uint32_t mFlags;
+  /// Where this node sits in its parent's list of children (holes counted), so that leaving is O(1).
+  std::uint32_t mSlot = 0;
   UI_Container* mParent = nullptr;
   Rect mBounds;
   std::unique_ptr<UI_NodeExtras> mExtras;

@@ -188,4 +188,33 @@ TEST_F(HeadlessWindows, ResetForgetsEverything) {
   EXPECT_EQ(Headless().GetFocusedNativeWindow(), nullptr);
 }
 
+TEST_F(HeadlessWindows, ChildSurfacesAreRecordedPerWindowAndGoWithIt) {
+  HWND first = Make({0, 0, 100, 100});
+  HWND second = Make({200, 0, 300, 100});
+  EXPECT_EQ(Headless().CreateChildSurface(HWND(), {0, 0, 5, 5}, false), nullptr) << "no parent";
+  HWND surface = Headless().CreateChildSurface(first, {1, 2, 11, 12}, true);
+  ASSERT_NE(surface, nullptr);
+  EXPECT_EQ(Headless().FindWindow(surface), nullptr) << "not a top-level window";
+  const auto* record = Headless().FindChildSurface(surface);
+  ASSERT_NE(record, nullptr);
+  EXPECT_TRUE(record->isGPUAccelerated);
+  EXPECT_FALSE(record->isShown);
+
+  Headless().SetChildSurfaceBounds(surface, {3, 4, 13, 14});
+  Headless().ShowChildSurface(surface, true);
+  Headless().SetChildSurfaceOpacity(surface, 0.5f);
+  Headless().SetChildSurfaceClipping(surface, true);
+  EXPECT_EQ(record->bounds, (Rect{3, 4, 13, 14}));
+  EXPECT_TRUE(record->isShown);
+  EXPECT_FLOAT_EQ(record->opacity, 0.5f);
+  EXPECT_TRUE(record->isClipped);
+
+  EXPECT_TRUE(Headless().SetChildSurfaceParent(surface, second));
+  EXPECT_TRUE(Headless().GetChildSurfaces(first).empty());
+  EXPECT_EQ(Headless().GetChildSurfaces(second), (std::vector<HWND>{surface}));
+  Headless().DestroyNativeWindow(second);
+  EXPECT_EQ(Headless().FindChildSurface(surface), nullptr);
+  EXPECT_FALSE(Headless().SetChildSurfaceParent(surface, first));
+}
+
 } // namespace
