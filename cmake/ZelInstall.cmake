@@ -15,7 +15,8 @@ if(_zel_libraries)
   install(DIRECTORY "${ZEL_GENERATED_INCLUDE_DIR}/" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
   install(EXPORT ZELTargets NAMESPACE zel:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/ZEL)
   file(WRITE "${PROJECT_BINARY_DIR}/ZELConfig.cmake.in"
-    "@PACKAGE_INIT@\ninclude(\"\${CMAKE_CURRENT_LIST_DIR}/ZELTargets.cmake\")\n")
+    "@PACKAGE_INIT@\ninclude(CMakeFindDependencyMacro)\nfind_dependency(Threads)\n"
+    "include(\"\${CMAKE_CURRENT_LIST_DIR}/ZELTargets.cmake\")\n")
   configure_package_config_file("${PROJECT_BINARY_DIR}/ZELConfig.cmake.in"
     "${PROJECT_BINARY_DIR}/ZELConfig.cmake"
     INSTALL_DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/ZEL)
