@@ -19,6 +19,11 @@ class UI_Container;
 
 namespace ZEL {
 
+namespace detail {
+template <typename View>
+struct PointerRouting;
+} // namespace detail
+
 class PlatformViewImpl;
 
 /// A view that hosts a native child surface, for content drawn by someone
@@ -116,6 +121,8 @@ protected:
 
 private:
   friend class PlatformViewImpl;
+  template <typename>
+  friend struct detail::PointerRouting;
 
   bool Insert(kroui::ui::UI_Container& container, const Rect& bounds, const std::weak_ptr<ViewBase>& parent,
               SurfaceKind kind);

@@ -72,7 +72,6 @@ private:
   void MoveSurface(const kroui::ui::Rect& bounds);
   void ShowSurface(bool show);
   void DestroySurface();
-  bool Gesture(const kroui::ui::PointerEvent& event, bool consumed);
 
   std::weak_ptr<PlatformView> mView;
   PlatformView::SurfaceKind mKind;

@@ -4,6 +4,7 @@
 
 #include <zel/views/PlatformViewImpl.h>
 
+#include <zel/views/PointerRoutingImpl.h>
 #include <zel/views/ViewSupport.h>
 
 #include <kroui/ui/DataObject.h>
@@ -15,8 +16,9 @@ namespace {
 
 using kroui::ui::PointerEvent;
 using Button = PointerEvent::Button;
+using Routing = detail::PointerRouting<PlatformView>;
 
-KeyModifiers ModifiersOf(const PointerEvent& event) { return detail::ToKeyModifiers(event.modifiers); }
+KeyModifiers ModifiersOf(const PointerEvent& event) { return Routing::ModifiersOf(event); }
 
 } // namespace
 
@@ -42,70 +44,27 @@ bool PlatformViewImpl::MouseUpSelf(const PointerEvent& event) {
   }
 }
 
-bool PlatformViewImpl::MouseMultiClickSelf(const PointerEvent& event) {
-  const std::shared_ptr<PlatformView> view = GetView();
-  if (!view) return false;
-  if (event.button == Button::Left) {
-    view->LeftButtonMultiClickSelf(event.position, ModifiersOf(event), event.clickCount);
-    return true;
-  }
-  if (event.button == Button::Right && event.clickCount == 2) {
-    view->RightButtonDoubleClickSelf(event.position, ModifiersOf(event));
-    return true;
-  }
-  return false; // offered again as a plain press
-}
+bool PlatformViewImpl::MouseMultiClickSelf(const PointerEvent& event) { return Routing::MultiClick(GetView(), event); }
 
-bool PlatformViewImpl::MouseMoveSelf(const PointerEvent& event) {
-  const std::shared_ptr<PlatformView> view = GetView();
-  if (!view) return false;
-  view->MouseMoveSelf(event.position, ModifiersOf(event));
-  return true;
-}
+bool PlatformViewImpl::MouseMoveSelf(const PointerEvent& event) { return Routing::Move(GetView(), event); }
 
-void PlatformViewImpl::MouseLeaveSelf() {
-  if (const std::shared_ptr<PlatformView> view = GetView()) view->MouseLeaveSelf();
-}
+void PlatformViewImpl::MouseLeaveSelf() { Routing::Leave(GetView()); }
 
-bool PlatformViewImpl::SetCursorSelf(const PointerEvent& event) {
-  const std::shared_ptr<PlatformView> view = GetView();
-  return view && view->SetCursorSelf(event.position, ModifiersOf(event));
-}
+bool PlatformViewImpl::SetCursorSelf(const PointerEvent& event) { return Routing::SetCursor(GetView(), event); }
 
-bool PlatformViewImpl::MouseWheelSelf(const PointerEvent& event) {
-  const std::shared_ptr<PlatformView> view = GetView();
-  return view && view->MouseWheelSelf(event.position, ModifiersOf(event), event.wheelDeltaX, event.wheelDeltaY,
-                                      event.isPreciseWheel);
-}
+bool PlatformViewImpl::MouseWheelSelf(const PointerEvent& event) { return Routing::Wheel(GetView(), event); }
 
 bool PlatformViewImpl::MouseMagnifySelf(const PointerEvent& event) {
-  const std::shared_ptr<PlatformView> view = GetView();
-  return Gesture(event, view && view->MouseMagnifySelf(event.position, event.gestureValue, ModifiersOf(event)));
+  return Routing::Magnify(GetView(), event, mGesture);
 }
 
 bool PlatformViewImpl::MouseRotateSelf(const PointerEvent& event) {
-  const std::shared_ptr<PlatformView> view = GetView();
-  return Gesture(event, view && view->MouseRotateSelf(event.position, event.gestureValue, ModifiersOf(event)));
+  return Routing::Rotate(GetView(), event, mGesture);
 }
 
-bool PlatformViewImpl::MousePanSelf(const PointerEvent& event) {
-  const std::shared_ptr<PlatformView> view = GetView();
-  return Gesture(event, view && view->MousePanSelf(event.position, event.panDelta));
-}
+bool PlatformViewImpl::MousePanSelf(const PointerEvent& event) { return Routing::Pan(GetView(), event, mGesture); }
 
-bool PlatformViewImpl::Gesture(const PointerEvent& event, bool consumed) {
-  if (consumed) mGesture = event.action;
-  return consumed;
-}
-
-bool PlatformViewImpl::MouseGestureEndSelf(const PointerEvent&) {
-  // The end goes to the view that took the gesture.
-  const Action gesture = std::exchange(mGesture, Action::None);
-  const std::shared_ptr<PlatformView> view = GetView();
-  if (!view || gesture == Action::None) return false;
-  view->MouseGestureEndSelf(gesture);
-  return true;
-}
+bool PlatformViewImpl::MouseGestureEndSelf(const PointerEvent&) { return Routing::GestureEnd(GetView(), mGesture); }
 
 std::string PlatformViewImpl::GetToolTipTextSelf() const {
   const std::shared_ptr<PlatformView> view = GetView();

@@ -24,6 +24,11 @@ class UI_Container;
 
 namespace ZEL {
 
+namespace detail {
+template <typename View>
+struct PointerRouting;
+} // namespace detail
+
 class SubViewImpl;
 
 /// The general, owner-drawn view: a handle over one platform container node
@@ -201,6 +206,8 @@ protected:
 
 private:
   friend class SubViewImpl;
+  template <typename>
+  friend struct detail::PointerRouting;
 
   bool Insert(kroui::ui::UI_Container& container, const Rect& bounds, const std::weak_ptr<ViewBase>& parent);
 

@@ -78,7 +78,6 @@ private:
 
   template <typename Hook>
   void Paint(kroui::drawbot::Drawbot& drawbot, Hook&& hook);
-  bool Gesture(const kroui::ui::PointerEvent& event, bool consumed);
   void EndDrag();
 
   std::weak_ptr<SubView> mView;

@@ -7,6 +7,7 @@
 
 #include <zel/views/SubViewImpl.h>
 
+#include <zel/views/PointerRoutingImpl.h>
 #include <zel/views/ViewSupport.h>
 
 #include <kroui/ui/KeyboardEvent.h>
@@ -17,8 +18,9 @@ namespace {
 using kroui::ui::KeyboardEvent;
 using kroui::ui::PointerEvent;
 using Button = PointerEvent::Button;
+using Routing = detail::PointerRouting<SubView>;
 
-KeyModifiers ModifiersOf(const PointerEvent& event) { return detail::ToKeyModifiers(event.modifiers); }
+KeyModifiers ModifiersOf(const PointerEvent& event) { return Routing::ModifiersOf(event); }
 
 wchar_t CharacterOf(const KeyboardEvent& event) { return static_cast<wchar_t>(event.GetCharacter()); }
 
@@ -58,75 +60,31 @@ bool SubViewImpl::MouseUpSelf(const PointerEvent& event) {
   }
 }
 
-bool SubViewImpl::MouseMultiClickSelf(const PointerEvent& event) {
-  const std::shared_ptr<SubView> view = GetView();
-  if (!view) return false;
-  if (event.button == Button::Left) {
-    view->LeftButtonMultiClickSelf(event.position, ModifiersOf(event), event.clickCount);
-    return true;
-  }
-  // A third right press in a row is a plain press again.
-  if (event.button == Button::Right && event.clickCount == 2) {
-    view->RightButtonDoubleClickSelf(event.position, ModifiersOf(event));
-    return true;
-  }
-  return false;
-}
+bool SubViewImpl::MouseMultiClickSelf(const PointerEvent& event) { return Routing::MultiClick(GetView(), event); }
 
 // Moving.
 
-bool SubViewImpl::MouseMoveSelf(const PointerEvent& event) {
-  const std::shared_ptr<SubView> view = GetView();
-  if (!view) return false;
-  view->MouseMoveSelf(event.position, ModifiersOf(event));
-  return true;
-}
+bool SubViewImpl::MouseMoveSelf(const PointerEvent& event) { return Routing::Move(GetView(), event); }
 
-void SubViewImpl::MouseLeaveSelf() {
-  if (const std::shared_ptr<SubView> view = GetView()) view->MouseLeaveSelf();
-}
+void SubViewImpl::MouseLeaveSelf() { Routing::Leave(GetView()); }
 
-bool SubViewImpl::SetCursorSelf(const PointerEvent& event) {
-  const std::shared_ptr<SubView> view = GetView();
-  return view && view->SetCursorSelf(event.position, ModifiersOf(event));
-}
+bool SubViewImpl::SetCursorSelf(const PointerEvent& event) { return Routing::SetCursor(GetView(), event); }
 
 // Wheel and gestures.
 
-bool SubViewImpl::MouseWheelSelf(const PointerEvent& event) {
-  const std::shared_ptr<SubView> view = GetView();
-  return view && view->MouseWheelSelf(event.position, ModifiersOf(event), event.wheelDeltaX, event.wheelDeltaY,
-                                      event.isPreciseWheel);
-}
+bool SubViewImpl::MouseWheelSelf(const PointerEvent& event) { return Routing::Wheel(GetView(), event); }
 
 bool SubViewImpl::MouseMagnifySelf(const PointerEvent& event) {
-  const std::shared_ptr<SubView> view = GetView();
-  return Gesture(event, view && view->MouseMagnifySelf(event.position, event.gestureValue, ModifiersOf(event)));
+  return Routing::Magnify(GetView(), event, mGesture);
 }
 
 bool SubViewImpl::MouseRotateSelf(const PointerEvent& event) {
-  const std::shared_ptr<SubView> view = GetView();
-  return Gesture(event, view && view->MouseRotateSelf(event.position, event.gestureValue, ModifiersOf(event)));
+  return Routing::Rotate(GetView(), event, mGesture);
 }
 
-bool SubViewImpl::MousePanSelf(const PointerEvent& event) {
-  const std::shared_ptr<SubView> view = GetView();
-  return Gesture(event, view && view->MousePanSelf(event.position, event.panDelta));
-}
+bool SubViewImpl::MousePanSelf(const PointerEvent& event) { return Routing::Pan(GetView(), event, mGesture); }
 
-bool SubViewImpl::Gesture(const PointerEvent& event, bool consumed) {
-  if (consumed) mGesture = event.action;
-  return consumed;
-}
-
-bool SubViewImpl::MouseGestureEndSelf(const PointerEvent&) {
-  // The end goes to the view that took the gesture; others pass it on.
-  const Action gesture = std::exchange(mGesture, Action::None);
-  const std::shared_ptr<SubView> view = GetView();
-  if (!view || gesture == Action::None) return false;
-  view->MouseGestureEndSelf(gesture);
-  return true;
-}
+bool SubViewImpl::MouseGestureEndSelf(const PointerEvent&) { return Routing::GestureEnd(GetView(), mGesture); }
 
 // Keyboard.
 
