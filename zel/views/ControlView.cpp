@@ -5,6 +5,8 @@
 #include <zel/views/ControlViewImpl.h>
 #include <zel/views/ViewSupport.h>
 
+#include <krocore/debug/Assert.h>
+
 namespace ZEL {
 namespace {
 
@@ -18,10 +20,8 @@ ControlView::ControlView(const krocore::FlexWeakPtr<Commander>& superCommander) 
 ControlView::~ControlView() = default;
 
 bool ControlView::AttachImpl(ControlViewImpl& impl, const std::weak_ptr<ViewBase>& parent, const Rect& bounds) {
-  const std::shared_ptr<ViewBase> parentView = parent.lock();
-  const auto parentNode = parentView ? parentView->GetKRONode() : nullptr;
-  auto* container = dynamic_cast<kroui::ui::UI_Container*>(parentNode.Get());
-  if (!KROCORE_ASSERT(container, "ControlView: the parent view has no node that can hold views")) return false;
+  const auto container = detail::ContainerOfParent(parent, "ControlView");
+  if (!container) return false;
   std::weak_ptr<ControlView> self = WeakAs<ControlView>();
   if (!KROCORE_ASSERT(!self.expired(), "ControlView: a control must be held by a std::shared_ptr to be created"))
     return false;

@@ -1,15 +1,12 @@
 #include <zel/views/OverlayView.h>
 
 #include <zel/views/OverlayViewImpl.h>
+#include <zel/views/ViewSupport.h>
 
 #include <krocore/debug/Assert.h>
 #include <kroui/ui/UI_Window.h>
 
 #include <algorithm>
-
-/// Opens every OverlayView operation: without a layer, report and return the neutral value.
-#define ZEL_OVERLAY_REQUIRE_IMPL(...)                                                                       \
-  if (!KROCORE_ASSERT(mImpl, "OverlayViewImpl has not been initialized")) return __VA_ARGS__
 
 namespace ZEL {
 
@@ -30,7 +27,7 @@ bool OverlayView::Create(const std::weak_ptr<ViewBase>& parent, const Rect& boun
 }
 
 void OverlayView::Destroy() {
-  ZEL_OVERLAY_REQUIRE_IMPL();
+  if (!detail::HasNode(mImpl)) return;
   DestroySelf();
   mImpl.reset();
 }
@@ -40,18 +37,18 @@ bool OverlayView::IsCreated() const noexcept { return mImpl != nullptr; }
 // The view interface.
 
 void OverlayView::SetBounds(const Rect& bounds) {
-  ZEL_OVERLAY_REQUIRE_IMPL();
+  if (!detail::HasNode(mImpl)) return;
   mImpl->SetBounds(bounds);
   SetBoundsSelf(bounds);
 }
 
 ViewBase::Rect OverlayView::GetBounds() const {
-  ZEL_OVERLAY_REQUIRE_IMPL({});
+  if (!detail::HasNode(mImpl)) return {};
   return mImpl->GetBounds();
 }
 
 void OverlayView::Show(bool show) {
-  ZEL_OVERLAY_REQUIRE_IMPL();
+  if (!detail::HasNode(mImpl)) return;
   if (show) {
     mImpl->GetLayer().Show(false); // a layer never takes the focus
   } else {
@@ -60,22 +57,22 @@ void OverlayView::Show(bool show) {
 }
 
 void OverlayView::Hide() {
-  ZEL_OVERLAY_REQUIRE_IMPL();
+  if (!detail::HasNode(mImpl)) return;
   mImpl->GetLayer().Hide();
 }
 
 bool OverlayView::IsShown() const {
-  ZEL_OVERLAY_REQUIRE_IMPL(false);
+  if (!detail::HasNode(mImpl)) return false;
   return mImpl->GetLayer().IsShown();
 }
 
 std::shared_ptr<ViewBase> OverlayView::GetParent() {
-  ZEL_OVERLAY_REQUIRE_IMPL(nullptr);
+  if (!detail::HasNode(mImpl)) return nullptr;
   return mImpl->GetParent();
 }
 
 krocore::IntrusivePtr<kroui::ui::UI_Node> OverlayView::GetKRONode() {
-  ZEL_OVERLAY_REQUIRE_IMPL(nullptr);
+  if (!detail::HasNode(mImpl)) return nullptr;
   return krocore::IntrusivePtr<kroui::ui::UI_Node>(&mImpl->GetNode());
 }
 
@@ -89,23 +86,23 @@ void OverlayView::PaintSelf(DC&) {}
 // The layer.
 
 void OverlayView::SetOpacity(float opacity) {
-  ZEL_OVERLAY_REQUIRE_IMPL();
+  if (!detail::HasNode(mImpl)) return;
   mImpl->GetLayer().SetAlpha(std::clamp(opacity, 0.f, 1.f));
 }
 
 void OverlayView::SetTransparentColorKey(const kroui::drawbot::ColorRGBA& colorKey) {
-  ZEL_OVERLAY_REQUIRE_IMPL();
+  if (!detail::HasNode(mImpl)) return;
   mImpl->GetNode().SetColorKey(colorKey);
 }
 
 void OverlayView::SetOpacityAndTransparentColorKey(float opacity, const kroui::drawbot::ColorRGBA& colorKey) {
-  ZEL_OVERLAY_REQUIRE_IMPL();
+  if (!detail::HasNode(mImpl)) return;
   mImpl->GetLayer().SetAlpha(std::clamp(opacity, 0.f, 1.f));
   mImpl->GetNode().SetColorKey(colorKey);
 }
 
 void OverlayView::Invalidate() {
-  ZEL_OVERLAY_REQUIRE_IMPL();
+  if (!detail::HasNode(mImpl)) return;
   mImpl->GetNode().Invalidate();
 }
 

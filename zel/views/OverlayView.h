@@ -63,7 +63,7 @@ public:
   void SetTransparentColorKey(const kroui::drawbot::ColorRGBA& colorKey);
   void SetOpacityAndTransparentColorKey(float opacity, const kroui::drawbot::ColorRGBA& colorKey);
   void Invalidate();
-  /// The layer's window; null when not created.
+  /// The layer's window; null, without a report, when not created (it asks, as IsCreated does).
   kroui::ui::UI_Window* GetLayerWindow() const;
 
 private:

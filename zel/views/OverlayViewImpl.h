@@ -10,6 +10,7 @@
 
 #include <memory>
 #include <optional>
+#include <string_view>
 
 namespace kroui::ui {
 struct OS_Event;
@@ -42,6 +43,9 @@ public:
   ~OverlayViewImpl();
   OverlayViewImpl(const OverlayViewImpl&) = delete;
   OverlayViewImpl& operator=(const OverlayViewImpl&) = delete;
+
+  /// Named in the reports of an OverlayView without its layer.
+  static constexpr std::string_view kReportedName = "OverlayViewImpl";
 
   kroui::ui::UI_Window& GetLayer() const noexcept { return *mLayer; }
   OverlayNode& GetNode() const noexcept { return *mNode; }

@@ -20,8 +20,8 @@ class UI_Container;
 namespace ZEL {
 
 namespace detail {
-template <typename View>
-struct PointerRouting;
+template <typename View, typename NodeBase>
+class ViewNode;
 } // namespace detail
 
 class PlatformViewImpl;
@@ -121,8 +121,8 @@ protected:
 
 private:
   friend class PlatformViewImpl;
-  template <typename>
-  friend struct detail::PointerRouting;
+  template <typename, typename>
+  friend class detail::ViewNode;
 
   bool Insert(kroui::ui::UI_Container& container, const Rect& bounds, const std::weak_ptr<ViewBase>& parent,
               SurfaceKind kind);

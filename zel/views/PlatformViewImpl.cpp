@@ -10,7 +10,7 @@
 namespace ZEL {
 
 PlatformViewImpl::PlatformViewImpl(std::weak_ptr<PlatformView> view, PlatformView::SurfaceKind kind)
-    : mView(std::move(view)), mKind(kind) {
+    : Base(std::move(view)), mKind(kind) {
   SetTracksPlacement(true);
   SetWantsDragAndDropEvents(true); // a native surface takes drops itself
 }
@@ -114,21 +114,6 @@ void PlatformViewImpl::PaintSelf(kroui::drawbot::Drawbot& drawbot) {
   if (!view) return;
   DC dc(drawbot);
   view->PaintSelf(dc);
-}
-
-void PlatformViewImpl::SetBoundsSelf(const kroui::ui::Rect& bounds) {
-  if (const std::shared_ptr<PlatformView> view = GetView()) view->SetBoundsSelf(bounds);
-}
-
-void PlatformViewImpl::SetFocusSelf() {
-  const std::shared_ptr<PlatformView> view = GetView();
-  if (!view) return;
-  Commander::SwitchTarget(view);
-  view->SetFocusSelf();
-}
-
-void PlatformViewImpl::KillFocusSelf() {
-  if (const std::shared_ptr<PlatformView> view = GetView()) view->KillFocusSelf();
 }
 
 } // namespace ZEL

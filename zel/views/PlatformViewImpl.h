@@ -3,27 +3,29 @@
 // Private: the node and native surface behind a PlatformView.
 
 #include <zel/views/PlatformView.h>
+#include <zel/views/ViewNodeImpl.h>
 
+#include <kroui/Forward.h>
 #include <kroui/ui/UI_Node.h>
 
 #include <cstdint>
 #include <memory>
-
-namespace kroui::ui {
-class UI_Window;
-}
+#include <string_view>
 
 namespace ZEL {
 
 /// The node of one PlatformView, and the child surface it keeps over its own
 /// area of its window. The node asks kroui to hear of every change of its
 /// place (its or an ancestor's move, a move to another tree) and of its
-/// visibility, and makes the surface follow. It knows its view only weakly.
-class PlatformViewImpl final : public kroui::ui::UI_Node {
+/// visibility, and makes the surface follow. Events reach the view's hooks
+/// through the shared view node.
+class PlatformViewImpl final : public detail::ViewNode<PlatformView, kroui::ui::UI_Node> {
 public:
   PlatformViewImpl(std::weak_ptr<PlatformView> view, PlatformView::SurfaceKind kind);
 
-  std::shared_ptr<PlatformView> GetView() const { return mView.lock(); }
+  /// Named in the reports of a PlatformView without its node.
+  static constexpr std::string_view kReportedName = "PlatformViewImpl";
+
   HWND GetSurface() const noexcept { return IsSurfaceCurrent() ? mSurface : nullptr; }
   float GetOpacity() const noexcept { return mOpacity; }
   void SetOpacity(float opacity);
@@ -39,30 +41,9 @@ protected:
   void PaintSelf(kroui::drawbot::Drawbot& drawbot) override;
   void PlacementChangedSelf() override { Sync(); }
   void VisibilityChangedSelf() override { Sync(); }
-  void SetBoundsSelf(const kroui::ui::Rect& bounds) override;
-  void SetFocusSelf() override;
-  void KillFocusSelf() override;
-
-  // Pointer and drag and drop (PlatformViewImplInput.cpp).
-  bool MouseDownSelf(const kroui::ui::PointerEvent& event) override;
-  bool MouseUpSelf(const kroui::ui::PointerEvent& event) override;
-  bool MouseMultiClickSelf(const kroui::ui::PointerEvent& event) override;
-  bool MouseMoveSelf(const kroui::ui::PointerEvent& event) override;
-  void MouseLeaveSelf() override;
-  bool SetCursorSelf(const kroui::ui::PointerEvent& event) override;
-  bool MouseWheelSelf(const kroui::ui::PointerEvent& event) override;
-  bool MouseMagnifySelf(const kroui::ui::PointerEvent& event) override;
-  bool MouseRotateSelf(const kroui::ui::PointerEvent& event) override;
-  bool MousePanSelf(const kroui::ui::PointerEvent& event) override;
-  bool MouseGestureEndSelf(const kroui::ui::PointerEvent& event) override;
-  std::string GetToolTipTextSelf() const override;
-  int DragEnterSelf(kroui::ui::DataObject& data, kroui::ui::ModifierKeys modifiers, kroui::ui::Point local) override;
-  int DragOverSelf(kroui::ui::DataObject& data, kroui::ui::ModifierKeys modifiers, kroui::ui::Point local) override;
-  void DragLeaveSelf() override;
-  bool DropSelf(kroui::ui::DataObject& data, int effect, kroui::ui::Point local) override;
 
 private:
-  using Action = kroui::ui::PointerEvent::Action;
+  using Base = detail::ViewNode<PlatformView, kroui::ui::UI_Node>;
 
   /// A handle made by a backend since replaced names nothing.
   bool IsSurfaceCurrent() const noexcept;
@@ -73,7 +54,6 @@ private:
   void ShowSurface(bool show);
   void DestroySurface();
 
-  std::weak_ptr<PlatformView> mView;
   PlatformView::SurfaceKind mKind;
   HWND mSurface = nullptr;
   HWND mParentWindow = nullptr;
@@ -82,7 +62,6 @@ private:
   bool mIsSurfaceShown = false;
   float mOpacity = 1.f;
   bool mIsClipped = false;
-  Action mGesture = Action::None;
 };
 
 } // namespace ZEL

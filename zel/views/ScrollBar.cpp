@@ -1,15 +1,10 @@
 #include <zel/views/ScrollBar.h>
 
 #include <zel/views/ScrollBarImpl.h>
-
-#include <krocore/debug/Assert.h>
+#include <zel/views/ViewSupport.h>
 
 #include <algorithm>
 #include <climits>
-
-/// Opens every ScrollBar operation: without a node, report and return the neutral value.
-#define ZEL_SCROLLBAR_REQUIRE_IMPL(...)                                                                     \
-  if (!KROCORE_ASSERT(mImpl, "ScrollBar has not been initialized")) return __VA_ARGS__
 
 namespace ZEL {
 namespace {
@@ -39,7 +34,7 @@ int ScrollBar::GetDefaultSize() { return kDefaultThickness; }
 ControlViewImpl* ScrollBar::GetControlViewImpl() const { return mImpl.Get(); }
 
 void ScrollBar::SetScrollParameters(int minimum, int maximum, int page, int step) {
-  ZEL_SCROLLBAR_REQUIRE_IMPL();
+  if (!detail::HasNode(mImpl)) return;
   ScrollRange range = mImpl->GetRange();
   range.minimum = minimum;
   range.maximum = maximum;
@@ -49,7 +44,7 @@ void ScrollBar::SetScrollParameters(int minimum, int maximum, int page, int step
 }
 
 void ScrollBar::GetScrollParameters(int& minimum, int& maximum, int& page, int& step) const {
-  ZEL_SCROLLBAR_REQUIRE_IMPL();
+  if (!detail::HasNode(mImpl)) return;
   const ScrollRange& range = mImpl->GetRange();
   minimum = range.minimum;
   maximum = range.maximum;
@@ -58,38 +53,38 @@ void ScrollBar::GetScrollParameters(int& minimum, int& maximum, int& page, int& 
 }
 
 void ScrollBar::SetScrollBarPosition(int position, bool notify) {
-  ZEL_SCROLLBAR_REQUIRE_IMPL();
+  if (!detail::HasNode(mImpl)) return;
   mImpl->MoveTo(position, notify);
 }
 
 int ScrollBar::GetScrollBarPosition() const {
-  ZEL_SCROLLBAR_REQUIRE_IMPL(0);
+  if (!detail::HasNode(mImpl)) return 0;
   return mImpl->GetRange().position;
 }
 
 void ScrollBar::OffsetScrollBarPosition(int delta) {
-  ZEL_SCROLLBAR_REQUIRE_IMPL();
+  if (!detail::HasNode(mImpl)) return;
   const long long target = static_cast<long long>(mImpl->GetRange().position) + delta;
   mImpl->MoveTo(static_cast<int>(std::clamp<long long>(target, INT_MIN, INT_MAX)), true);
 }
 
 int ScrollBar::GetStep() const {
-  ZEL_SCROLLBAR_REQUIRE_IMPL(0);
+  if (!detail::HasNode(mImpl)) return 0;
   return mImpl->GetRange().step;
 }
 
 bool ScrollBar::IsScrollable() const {
-  ZEL_SCROLLBAR_REQUIRE_IMPL(false);
+  if (!detail::HasNode(mImpl)) return false;
   return mImpl->GetRange().IsScrollable();
 }
 
 void ScrollBar::SetOuterCornersRoundingRadius(float radius) {
-  ZEL_SCROLLBAR_REQUIRE_IMPL();
+  if (!detail::HasNode(mImpl)) return;
   mImpl->SetCornerRadius(radius);
 }
 
 krocore::utility::ImmutableString ScrollBar::GetStationID() const {
-  ZEL_SCROLLBAR_REQUIRE_IMPL({});
+  if (!detail::HasNode(mImpl)) return {};
   return mImpl->GetStationID();
 }
 

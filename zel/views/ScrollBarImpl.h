@@ -7,6 +7,8 @@
 
 #include <krocore/messaging/Station.h>
 
+#include <string_view>
+
 namespace ZEL {
 
 /// Keeps the range and position, lays out and paints the parts, and turns
@@ -15,6 +17,9 @@ namespace ZEL {
 class ScrollBarImpl final : public ControlViewImpl {
 public:
   ScrollBarImpl(bool isVertical, unsigned int cookie);
+
+  /// Named in the reports of a ScrollBar without its node.
+  static constexpr std::string_view kReportedName = "ScrollBar";
 
   const ScrollRange& GetRange() const noexcept { return mRange; }
   /// Keeps the position inside the new range, without a broadcast.

@@ -25,8 +25,8 @@ class UI_Container;
 namespace ZEL {
 
 namespace detail {
-template <typename View>
-struct PointerRouting;
+template <typename View, typename NodeBase>
+class ViewNode;
 } // namespace detail
 
 class SubViewImpl;
@@ -206,8 +206,8 @@ protected:
 
 private:
   friend class SubViewImpl;
-  template <typename>
-  friend struct detail::PointerRouting;
+  template <typename, typename>
+  friend class detail::ViewNode;
 
   bool Insert(kroui::ui::UI_Container& container, const Rect& bounds, const std::weak_ptr<ViewBase>& parent);
 

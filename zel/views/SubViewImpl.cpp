@@ -11,7 +11,7 @@
 
 namespace ZEL {
 
-SubViewImpl::SubViewImpl(std::weak_ptr<SubView> view) : mView(std::move(view)) {}
+SubViewImpl::SubViewImpl(std::weak_ptr<SubView> view) : Base(std::move(view)) {}
 
 SubViewImpl::~SubViewImpl() { EndDrag(); }
 
@@ -62,23 +62,17 @@ int SubViewImpl::DragEnterSelf(kroui::ui::DataObject& data, kroui::ui::ModifierK
     manager->SetDragInProgress(true);
     mHasDragContext = true;
   }
-  return view->DragEnterSelf(data, detail::ToKeyModifiers(modifiers), local);
-}
-
-int SubViewImpl::DragOverSelf(kroui::ui::DataObject& data, kroui::ui::ModifierKeys modifiers, kroui::ui::Point local) {
-  const std::shared_ptr<SubView> view = GetView();
-  return view ? view->DragOverSelf(data, detail::ToKeyModifiers(modifiers), local) : kroui::ui::kDropEffect_None;
+  return Base::DragEnterSelf(data, modifiers, local);
 }
 
 void SubViewImpl::DragLeaveSelf() {
   EndDrag();
-  if (const std::shared_ptr<SubView> view = GetView()) view->DragLeaveSelf();
+  Base::DragLeaveSelf();
 }
 
 bool SubViewImpl::DropSelf(kroui::ui::DataObject& data, int effect, kroui::ui::Point local) {
   EndDrag();
-  const std::shared_ptr<SubView> view = GetView();
-  return view && view->DropSelf(data, effect, local);
+  return Base::DropSelf(data, effect, local);
 }
 
 void SubViewImpl::EndDrag() {
@@ -93,18 +87,9 @@ bool SubViewImpl::TimerNotifySelf(unsigned timerID) {
   return view && view->TimerNotifySelf(timerID);
 }
 
-std::string SubViewImpl::GetToolTipTextSelf() const {
-  const std::shared_ptr<SubView> view = GetView();
-  return view ? view->GetToolTipTextSelf() : std::string();
-}
-
 bool SubViewImpl::DisplaysToolTipForChildSelf(const kroui::ui::UI_Node* child) const {
   const std::shared_ptr<SubView> view = GetView();
   return view && view->DisplaysToolTipForChildSelf(child);
-}
-
-void SubViewImpl::SetBoundsSelf(const kroui::ui::Rect& bounds) {
-  if (const std::shared_ptr<SubView> view = GetView()) view->SetBoundsSelf(bounds);
 }
 
 void SubViewImpl::VisibilityChangedSelf() {

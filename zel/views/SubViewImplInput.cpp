@@ -1,14 +1,8 @@
-// SubViewImpl: pointer, keyboard and focus events, handed to the view's hooks.
-//
-// The node gets each event with its position already in the node's own
-// coordinates, which are the view's. Button, move and gesture hooks return
-// nothing: the view they reach takes the event (IsPointerEventHandled lets a
-// view pass on events without seeing them). Bool hooks decide for themselves.
+// SubViewImpl: hit testing, keys and the focus chain, handed to the view's
+// hooks. IsPointerEventHandled lets a view pass pointer events on to its
+// parent without seeing them.
 
 #include <zel/views/SubViewImpl.h>
-
-#include <zel/views/PointerRoutingImpl.h>
-#include <zel/views/ViewSupport.h>
 
 #include <kroui/ui/KeyboardEvent.h>
 
@@ -17,10 +11,6 @@ namespace {
 
 using kroui::ui::KeyboardEvent;
 using kroui::ui::PointerEvent;
-using Button = PointerEvent::Button;
-using Routing = detail::PointerRouting<SubView>;
-
-KeyModifiers ModifiersOf(const PointerEvent& event) { return Routing::ModifiersOf(event); }
 
 wchar_t CharacterOf(const KeyboardEvent& event) { return static_cast<wchar_t>(event.GetCharacter()); }
 
@@ -37,54 +27,6 @@ bool SubViewImpl::IsPointerEventHandled(const PointerEvent& event) const {
   const std::shared_ptr<SubView> view = GetView();
   return view && view->IsPointerEventHandled(event);
 }
-
-// Buttons.
-
-bool SubViewImpl::MouseDownSelf(const PointerEvent& event) {
-  const std::shared_ptr<SubView> view = GetView();
-  if (!view) return false;
-  switch (event.button) {
-  case Button::Left: view->LeftButtonDownSelf(event.position, ModifiersOf(event)); return true;
-  case Button::Right: view->RightButtonDownSelf(event.position, ModifiersOf(event)); return true;
-  default: return false; // middle-button hooks belong to native child views
-  }
-}
-
-bool SubViewImpl::MouseUpSelf(const PointerEvent& event) {
-  const std::shared_ptr<SubView> view = GetView();
-  if (!view) return false;
-  switch (event.button) {
-  case Button::Left: view->LeftButtonUpSelf(event.position, ModifiersOf(event)); return true;
-  case Button::Right: view->RightButtonUpSelf(event.position, ModifiersOf(event)); return true;
-  default: return false;
-  }
-}
-
-bool SubViewImpl::MouseMultiClickSelf(const PointerEvent& event) { return Routing::MultiClick(GetView(), event); }
-
-// Moving.
-
-bool SubViewImpl::MouseMoveSelf(const PointerEvent& event) { return Routing::Move(GetView(), event); }
-
-void SubViewImpl::MouseLeaveSelf() { Routing::Leave(GetView()); }
-
-bool SubViewImpl::SetCursorSelf(const PointerEvent& event) { return Routing::SetCursor(GetView(), event); }
-
-// Wheel and gestures.
-
-bool SubViewImpl::MouseWheelSelf(const PointerEvent& event) { return Routing::Wheel(GetView(), event); }
-
-bool SubViewImpl::MouseMagnifySelf(const PointerEvent& event) {
-  return Routing::Magnify(GetView(), event, mGesture);
-}
-
-bool SubViewImpl::MouseRotateSelf(const PointerEvent& event) {
-  return Routing::Rotate(GetView(), event, mGesture);
-}
-
-bool SubViewImpl::MousePanSelf(const PointerEvent& event) { return Routing::Pan(GetView(), event, mGesture); }
-
-bool SubViewImpl::MouseGestureEndSelf(const PointerEvent&) { return Routing::GestureEnd(GetView(), mGesture); }
 
 // Keyboard.
 
@@ -103,19 +45,7 @@ bool SubViewImpl::CharacterInputSelf(const KeyboardEvent& event) {
   return view && view->CharacterInputSelf(CharacterOf(event), event.IsAutoRepeat());
 }
 
-// Focus.
-
-void SubViewImpl::SetFocusSelf() {
-  const std::shared_ptr<SubView> view = GetView();
-  if (!view) return;
-  // The focused view receives commands first; the old target's chain goes off duty.
-  Commander::SwitchTarget(view);
-  view->SetFocusSelf();
-}
-
-void SubViewImpl::KillFocusSelf() {
-  if (const std::shared_ptr<SubView> view = GetView()) view->KillFocusSelf();
-}
+// The focus chain.
 
 bool SubViewImpl::WantsFocusSelf() const {
   const std::shared_ptr<SubView> view = GetView();

@@ -24,6 +24,20 @@ namespace ZEL {
 ///      ^                          |
 ///      +-------- weakly ----------+   the node calls the handle's hooks
 ///
+/// A handle without its node (before Create, or after OverlayView::Destroy):
+/// - every operation of a view handle (SubView, PlatformView, OverlayView) or
+///   of a concrete control (ScrollBar, ...) reports "<node class> has not been
+///   initialized" ("SubViewImpl", "PlatformViewImpl", "OverlayViewImpl", or
+///   the control's own class name, "ScrollBar"), naming the operation called,
+///   and answers neutrally: false, zero, empty, null; commands do nothing;
+/// - nothing is kept for a later Create: the node starts from its defaults;
+/// - ControlView's own operations answer their defaults without a report
+///   (the concrete control reports for its operations);
+/// - the questions whether there is a node (IsCreated, OverlayView's
+///   GetLayerWindow), the destructor and the hooks never report.
+/// Every handle opens its operations with `detail::HasNode(mImpl)`
+/// (zel/views/ViewSupport.h), so the report and its wording are one.
+///
 /// The virtual operations below keep their order: overriders and the
 /// slot table depend on it.
 class ZEL_API ViewBase : public Commander, public krocore::utility::EnableSharedAs {

@@ -2,11 +2,25 @@
 
 // Private: what the view handles share.
 
+#include <zel/Export.h>
 #include <zel/commands/KeySpec.h>
 
-#include <krocore/debug/Assert.h>
+#include <krocore/pointers/IntrusivePtr.h>
 #include <kroui/skins/SkinManager.h>
 #include <kroui/ui/ModifierKeys.h>
+
+#include <memory>
+#include <source_location>
+#include <string_view>
+#include <type_traits>
+
+namespace ZEL {
+class ViewBase;
+} // namespace ZEL
+
+namespace kroui::ui {
+class UI_Container;
+} // namespace kroui::ui
 
 namespace ZEL::detail {
 
@@ -21,10 +35,27 @@ inline int ToolTipDelay() noexcept {
 
 inline KeyModifiers ToKeyModifiers(kroui::ui::ModifierKeys modifiers) { return KeyModifiers(modifiers.GetValue()); }
 
-} // namespace ZEL::detail
+/// Reports "<name> has not been initialized" against the operation at `where`.
+ZEL_API void ReportNotInitialized(std::string_view name, const std::source_location& where);
 
-/// Opens every SubView operation: without a node, report and return the
-/// neutral value given (nothing for operations that return nothing). A
-/// macro, so that the report names the operation that was called.
-#define ZEL_SUBVIEW_REQUIRE_IMPL(...)                                                                       \
-  if (!KROCORE_ASSERT(mImpl, "SubViewImpl has not been initialized")) return __VA_ARGS__
+/// Opens every operation of a view handle (the rule is written in ViewBase.h):
+///
+///   if (!detail::HasNode(mImpl)) return {};
+///
+/// False, reported against the calling operation under the node class's
+/// kReportedName, when the handle has no node yet.
+template <typename NodePointer>
+bool HasNode(const NodePointer& node, const std::source_location& where = std::source_location::current()) {
+  if (node) [[likely]]
+    return true;
+  ReportNotInitialized(std::remove_cvref_t<decltype(*node)>::kReportedName, where);
+  return false;
+}
+
+/// The container node a view placed in `parent` goes into; null, reported
+/// as `who`'s, when the parent is gone or its node cannot hold views.
+krocore::IntrusivePtr<kroui::ui::UI_Container>
+ContainerOfParent(const std::weak_ptr<ViewBase>& parent, std::string_view who,
+                  const std::source_location& where = std::source_location::current());
+
+} // namespace ZEL::detail

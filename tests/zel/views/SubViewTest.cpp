@@ -85,6 +85,13 @@ TEST_F(SubViewTree, AQuickSecondPressIsAMultiClickInsteadOfADown) {
                                 "b.RightDown@10,15", "b.RightUp@10,15", "b.RightDouble@10,15", "b.RightUp@10,15"}));
 }
 
+TEST_F(SubViewTree, TheMiddleButtonPassesByOwnerDrawnViews) {
+  RestAt(30, 35);
+  Do([](auto& h) { h.Click(kroui::ui::PointerEvent::Button::Middle); });
+  EXPECT_EQ(TakeLog(), Strings{}) << "only native child views have middle-button hooks";
+  EXPECT_FALSE(b->IsLeftMouseDown());
+}
+
 TEST_F(SubViewTree, AViewThatDoesNotHandlePointerEventsPassesThemToItsParent) {
   b->handlesPointer = false;
   MoveTo(30, 35);
