@@ -4,6 +4,7 @@
 #include <kls/Foundation.h>
 #include <kls/ParamColor.h>
 
+#include <zel/Forward.h>
 #include <zel/Localization.h>
 #include <zel/commands/AnalyticsUtils.h>
 #include <zel/commands/Command.h>

@@ -23,6 +23,12 @@ template <typename T>
 class RefCountedWeakPtr;
 } // namespace kroui::ui
 
+namespace kroui::drawbot {
+class Drawbot;
+class Image;
+class RecordingDrawbot;
+} // namespace kroui::drawbot
+
 namespace kroui::ksv {
 class ActionInfo;
 } // namespace kroui::ksv

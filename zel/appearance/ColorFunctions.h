@@ -1,11 +1,9 @@
 #pragma once
 
+#include <zel/Forward.h>
 #include <zel/appearance/ColorManager.h>
 
 namespace ZEL {
-
-class ColorExpression;
-class ColorRegistry;
 
 /// The value of a formula's function, its keys looked up in the registry:
 ///

@@ -1,15 +1,13 @@
 #pragma once
 
 #include <zel/Export.h>
+#include <zel/Forward.h>
 
 #include <kroui/ui/UI_Container.h>
 
 #include <memory>
 
 namespace ZEL {
-
-class ControlView;
-class ViewBase;
 
 /// The node of a control: a concrete control derives its node from this and
 /// overrides the platform hooks (PaintSelf, MouseDownSelf...) directly. It

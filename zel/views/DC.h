@@ -4,16 +4,12 @@
 
 #include <krocore/geom/Geometry.h>
 #include <krocore/utility/ImmutableString.h>
+#include <kroui/Forward.h>
 #include <kroui/drawbot/DrawTypes.h>
 
 #include <memory>
 #include <span>
 #include <string_view>
-
-namespace kroui::drawbot {
-class Drawbot;
-class Image;
-} // namespace kroui::drawbot
 
 namespace ZEL {
 

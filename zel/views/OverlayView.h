@@ -4,13 +4,10 @@
 #include <zel/views/DC.h>
 #include <zel/views/ViewBase.h>
 
+#include <kroui/Forward.h>
 #include <kroui/drawbot/DrawTypes.h>
 
 #include <memory>
-
-namespace kroui::ui {
-class UI_Window;
-}
 
 namespace ZEL {
 

@@ -4,6 +4,7 @@
 
 #include <zel/views/OverlayView.h>
 
+#include <kroui/Forward.h>
 #include <kroui/drawbot/DrawTypes.h>
 #include <kroui/os/NativeTypes.h>
 #include <kroui/ui/UI_Container.h>
@@ -11,10 +12,6 @@
 #include <memory>
 #include <optional>
 #include <string_view>
-
-namespace kroui::ui {
-struct OS_Event;
-}
 
 namespace ZEL {
 

@@ -6,16 +6,13 @@
 #include <zel/views/DC.h>
 #include <zel/views/ViewBase.h>
 
+#include <kroui/Forward.h>
 #include <kroui/os/NativeTypes.h>
 #include <kroui/ui/PointerEvent.h>
 #include <kroui/ui/RefCountedWeakPtr.h>
 
 #include <cstdint>
 
-namespace kroui::ui {
-class DataObject;
-class UI_Container;
-} // namespace kroui::ui
 
 namespace ZEL {
 

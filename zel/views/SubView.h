@@ -6,6 +6,7 @@
 #include <zel/views/DC.h>
 #include <zel/views/ViewBase.h>
 
+#include <kroui/Forward.h>
 #include <kroui/drawbot/DrawTypes.h>
 #include <kroui/ui/PointerEvent.h>
 #include <kroui/ui/RefCountedWeakPtr.h>
@@ -13,14 +14,6 @@
 #include <memory>
 #include <string>
 
-namespace kroui::drawbot {
-class Drawbot;
-}
-namespace kroui::ui {
-class DataObject;
-class UI_Animator;
-class UI_Container;
-} // namespace kroui::ui
 
 namespace ZEL {
 

@@ -6,12 +6,9 @@
 #include <krocore/geom/Geometry.h>
 #include <krocore/pointers/EnableSharedAs.h>
 #include <krocore/pointers/IntrusivePtr.h>
+#include <kroui/Forward.h>
 
 #include <memory>
-
-namespace kroui::ui {
-class UI_Node;
-}
 
 namespace ZEL {
 

@@ -3,9 +3,11 @@
 // Private: what the view handles share.
 
 #include <zel/Export.h>
+#include <zel/Forward.h>
 #include <zel/commands/KeySpec.h>
 
 #include <krocore/pointers/IntrusivePtr.h>
+#include <kroui/Forward.h>
 #include <kroui/skins/SkinManager.h>
 #include <kroui/ui/ModifierKeys.h>
 
@@ -13,14 +15,6 @@
 #include <source_location>
 #include <string_view>
 #include <type_traits>
-
-namespace ZEL {
-class ViewBase;
-} // namespace ZEL
-
-namespace kroui::ui {
-class UI_Container;
-} // namespace kroui::ui
 
 namespace ZEL::detail {
 

@@ -1,0 +1,42 @@
+#pragma once
+
+// Declarations of the framework's public types, for headers that only name them.
+
+namespace ZEL {
+
+// Commands and shortcuts.
+class Command;
+class CommandContext;
+class CommandHandler;
+class CommandInfo;
+class Commander;
+class KeyCommandMap;
+class KeyModifiers;
+class KeySpec;
+class ShortcutManager;
+class ShortcutSetFile;
+class SyntheticCommand;
+
+// Views.
+class Application;
+class BackgroundView;
+class ControlView;
+class DC;
+class DCState;
+class OverlayView;
+class PlatformView;
+class ScrollBar;
+class ScrollBarPositionChangedMessage;
+class ScrollBarPositionChangingMessage;
+class SubView;
+class ViewBase;
+
+// Appearance.
+class ColorExpression;
+class ColorManager;
+class ColorRegistry;
+class CursorInitializer;
+class ThemeChangedMessage;
+class ThemeResources;
+
+} // namespace ZEL
