@@ -5,6 +5,7 @@
 #include <kroui/drawbot/RasterSurface.h>
 
 #include <support/ImageCompare.h>
+#include <support/SourceTree.h>
 
 #include "DrawbotTestSupport.h"
 
@@ -17,7 +18,7 @@ using namespace kroui::drawbot;
 using namespace kroui::drawbot::testing;
 
 std::filesystem::path ReferenceDirectory() {
-  return std::filesystem::path(__FILE__).parent_path() / "reference";
+  return testsupport::SourcePath("tests/platform/kroui/drawbot/reference");
 }
 
 /// A little timeline: a ruler with ticks and timecodes, a clip, a marker, a

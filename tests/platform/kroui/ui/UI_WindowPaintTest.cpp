@@ -3,6 +3,7 @@
 #include <kroui/drawbot/RecordingDrawbot.h>
 
 #include <support/ImageCompare.h>
+#include <support/SourceTree.h>
 
 #include "NodeTestSupport.h"
 #include "drawbot/DrawbotTestSupport.h"
@@ -225,7 +226,7 @@ TEST_F(UI_WindowPaint, AWindowSceneLooksAsCommitted) {
   std::filesystem::remove(written);
   ASSERT_TRUE(read) << read.Error();
   const std::filesystem::path reference =
-      std::filesystem::path(__FILE__).parent_path() / "reference" / "window-scene.png";
+      testsupport::SourcePath("tests/platform/kroui/ui/reference/window-scene.png");
   EXPECT_TRUE(testsupport::MatchesReferenceImage(read.Value(), reference));
 }
 
