@@ -148,9 +148,8 @@ const krocore::utility::ModuleResourceRegistrar kRegistrar{\"@ARG_MODULE@\", kRe
 endfunction()
 
 # zel_add_fuzzer(<name> SOURCES ... LIBS ... [SECONDS n] [CORPUS dir])
-# A target defining LLVMFuzzerTestOneInput. Under clang it is a libFuzzer
-# binary; otherwise it links our mutation driver, which takes the same
-# -max_total_time= flag. Either way CTest runs it for SECONDS (default 10).
+# A libFuzzer binary over a target defining LLVMFuzzerTestOneInput (clang only:
+# see ZelSanitizers.cmake). CTest runs it for SECONDS (default 10).
 function(zel_add_fuzzer name)
   cmake_parse_arguments(ARG "" "SECONDS;CORPUS" "SOURCES;LIBS" ${ARGN})
   if(NOT ARG_SECONDS)
@@ -158,12 +157,8 @@ function(zel_add_fuzzer name)
   endif()
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_LIBS})
-  if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-    target_compile_options(${name} PRIVATE -fsanitize=fuzzer)
-    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
-  else()
-    target_link_libraries(${name} PRIVATE zel_fuzz_driver)
-  endif()
+  target_compile_options(${name} PRIVATE -fsanitize=fuzzer)
+  target_link_options(${name} PRIVATE -fsanitize=fuzzer)
   zel_set_warnings(${name})
   # libFuzzer writes the inputs it finds into its first folder: give it one in
   # the build tree, so that the seed corpus in the sources stays as committed.
