@@ -135,6 +135,10 @@ class CheckLayering(unittest.TestCase):
              ("platform/kroui/drawbot/Drawbot.cpp:1", ["Cairo"]),
              ("platform/kroui/theme/ThemeEngine.cpp:1", ["pugixml"])])
 
+    def test_a_library_without_a_level_is_named(self):
+        self.assert_fails_with({"platform/kroaudio/Mixer.cpp": "#include <krocore/Export.h>\n"},
+                               [("platform/kroaudio/Mixer.cpp:1", ["no known library"])])
+
 
 if __name__ == "__main__":
     unittest.main()
