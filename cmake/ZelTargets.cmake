@@ -87,7 +87,9 @@ endfunction()
 # takes the bytes in with .incbin, so nothing converts them) and one registrar
 # files the table while the library loads. The source is written at configure
 # time, when the list of files is known; its object is rebuilt whenever one of
-# the files changes.
+# the files changes. The directives are the GNU assembler's for ELF; a Windows
+# build would write an RCDATA script instead, found by the same module, type
+# and name.
 function(zel_add_resources target)
   cmake_parse_arguments(PARSE_ARGV 1 ARG "" "MODULE" "")
   string(MAKE_C_IDENTIFIER "zel_resource_${target}" _prefix)
