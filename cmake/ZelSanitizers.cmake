@@ -18,8 +18,14 @@ if(ZEL_SANITIZE)
   endif()
 endif()
 
-# Under clang, fuzzing instruments every library for coverage, so that
-# libFuzzer sees into the code the fuzz targets call.
-if(ZEL_BUILD_FUZZ AND CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+# The fuzz targets are libFuzzer programs, so only clang builds them; it
+# instruments every library for coverage, so that libFuzzer sees into the code
+# the fuzz targets call.
+if(ZEL_BUILD_FUZZ)
+  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    message(FATAL_ERROR "ZEL_BUILD_FUZZ needs clang and its libFuzzer, not "
+      "${CMAKE_CXX_COMPILER_ID}: configure with -DCMAKE_CXX_COMPILER=clang++ "
+      "(as scripts/test does for build/fuzz) or with -DZEL_BUILD_FUZZ=OFF")
+  endif()
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()

@@ -3,6 +3,7 @@
 #include <krocore/Export.h>
 
 #include <cstddef>
+#include <span>
 #include <string_view>
 
 namespace krocore::utility {
@@ -22,20 +23,27 @@ struct ResourceBytes {
 KROCORE_API ResourceBytes GetBinaryFromModule(std::string_view module, std::u16string_view type,
                                               std::u16string_view name);
 
-/// Made by the code the build generates for each resource file: files the
-/// bytes while the module loads, and withdraws them when it unloads.
+/// One entry of the resource table the build generates for a module: the file's
+/// bytes run from begin to end, and a zero byte follows them.
+struct ModuleResource {
+  const char16_t* type;
+  const char16_t* name;
+  const unsigned char* begin;
+  const unsigned char* end;
+};
+
+/// Files resources under a module while it lives and withdraws them when it dies.
+/// The build makes one per module, over the module's whole table, while the
+/// module loads; a test can make one for a single resource of its own. A later
+/// registrar of the same module, type and name takes the place of an earlier one.
 class KROCORE_API ModuleResourceRegistrar {
 public:
+  ModuleResourceRegistrar(const char* module, std::span<const ModuleResource> resources);
   ModuleResourceRegistrar(const char* module, const char16_t* type, const char16_t* name,
                           const unsigned char* data, std::size_t size);
   ~ModuleResourceRegistrar();
   ModuleResourceRegistrar(const ModuleResourceRegistrar&) = delete;
   ModuleResourceRegistrar& operator=(const ModuleResourceRegistrar&) = delete;
-
-private:
-  const char* mModule;
-  const char16_t* mType;
-  const char16_t* mName;
 };
 
 } // namespace krocore::utility

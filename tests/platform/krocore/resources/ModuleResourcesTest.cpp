@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 using krocore::utility::GetBinaryFromModule;
+using krocore::utility::ModuleResource;
+using krocore::utility::ModuleResourceRegistrar;
 
 namespace {
 
@@ -24,6 +28,31 @@ TEST(ModuleResources, AnythingElseIsEmpty) {
   EXPECT_TRUE(GetBinaryFromModule("krocore_tests", u"png", u"sample").IsEmpty());
   EXPECT_TRUE(GetBinaryFromModule("other", u"table", u"sample").IsEmpty());
   EXPECT_EQ(GetBinaryFromModule("", u"", u"").size, 0u);
+}
+
+constexpr unsigned char kFirst[] = "first";
+constexpr unsigned char kSecond[] = "second!";
+
+TEST(ModuleResources, ATableIsFiledWhileItsRegistrarLives) {
+  const ModuleResource table[] = {{u"table", u"one", kFirst, kFirst + 5}, {u"xml", u"two", kSecond, kSecond + 7}};
+  {
+    const ModuleResourceRegistrar registrar("table_module", table);
+    EXPECT_EQ(GetBinaryFromModule("table_module", u"table", u"one").AsText(), "first");
+    EXPECT_EQ(GetBinaryFromModule("table_module", u"XML", u"Two").AsText(), "second!");
+    EXPECT_TRUE(GetBinaryFromModule("table_module", u"table", u"two").IsEmpty());
+  }
+  EXPECT_TRUE(GetBinaryFromModule("table_module", u"table", u"one").IsEmpty());
+  EXPECT_TRUE(GetBinaryFromModule("table_module", u"xml", u"two").IsEmpty());
+}
+
+TEST(ModuleResources, ALaterRegistrarReplacesAnEarlierOneThatThenWithdrawsNothing) {
+  auto earlier = std::make_unique<ModuleResourceRegistrar>("replaced", u"table", u"name", kFirst, 5);
+  {
+    const ModuleResourceRegistrar later("replaced", u"table", u"name", kSecond, 7);
+    earlier.reset();
+    EXPECT_EQ(GetBinaryFromModule("replaced", u"table", u"name").AsText(), "second!");
+  }
+  EXPECT_TRUE(GetBinaryFromModule("replaced", u"table", u"name").IsEmpty());
 }
 
 } // namespace
