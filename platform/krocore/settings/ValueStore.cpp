@@ -96,7 +96,7 @@ void ValueStore::Notify(const std::vector<std::string>& names) {
     for (const auto& [id, observer] : observers) observer(name);
 }
 
-utility::Result<bool> ValueStore::SaveToFile(const std::filesystem::path& path) const {
+utility::Result<void> ValueStore::SaveToFile(const std::filesystem::path& path) const {
   std::string text(kFileHeader);
   {
     std::lock_guard lock(mMutex);
@@ -105,13 +105,13 @@ utility::Result<bool> ValueStore::SaveToFile(const std::filesystem::path& path) 
   return utility::WriteFileAtomically(path, text);
 }
 
-utility::Result<bool> ValueStore::LoadFromFile(const std::filesystem::path& path) {
+utility::Result<void> ValueStore::LoadFromFile(const std::filesystem::path& path) {
   auto bytes = utility::ReadFileBytes(path, kMaxFileBytes);
-  if (!bytes) return utility::Result<bool>::Failure(bytes.Error());
+  if (!bytes) return utility::Result<void>::Failure(bytes.Error());
   auto values = proplist::PropList::FromText(bytes.Value());
-  if (!values) return utility::Result<bool>::Failure("\"" + path.string() + "\" is damaged: " + values.Error());
+  if (!values) return utility::Result<void>::Failure("\"" + path.string() + "\" is damaged: " + values.Error());
   for (const auto& [name, value] : values.Value().Entries()) Set(name, value);
-  return utility::Result<bool>::Success(true);
+  return utility::Result<void>::Success();
 }
 
 } // namespace krocore::settings

@@ -46,10 +46,10 @@ public:
 
   /// Writes all values to a file: the new text goes beside the old file and
   /// replaces it only when complete, so a failed save keeps the old file.
-  utility::Result<bool> SaveToFile(const std::filesystem::path& path) const;
+  utility::Result<void> SaveToFile(const std::filesystem::path& path) const;
   /// Reads values from a file and sets each (notifying observers). A missing
   /// or damaged file changes nothing and says why.
-  utility::Result<bool> LoadFromFile(const std::filesystem::path& path);
+  utility::Result<void> LoadFromFile(const std::filesystem::path& path);
 
 private:
   void Notify(const std::vector<std::string>& names);

@@ -60,21 +60,21 @@ Result<std::string> ReadFileBytes(const std::filesystem::path& path, std::size_t
   return Result<std::string>::Success(std::move(bytes));
 }
 
-Result<bool> WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes) {
+Result<void> WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes) {
   const std::filesystem::path temporary = TemporaryBeside(path);
   if (!WriteAndSync(temporary, bytes)) {
     std::error_code ignored;
     std::filesystem::remove(temporary, ignored);
-    return Result<bool>::Failure(Describe(path, "could not be written"));
+    return Result<void>::Failure(Describe(path, "could not be written"));
   }
   std::error_code error;
   std::filesystem::rename(temporary, path, error);
   if (error) {
     std::error_code ignored;
     std::filesystem::remove(temporary, ignored);
-    return Result<bool>::Failure(Describe(path, "could not be replaced"));
+    return Result<void>::Failure(Describe(path, "could not be replaced"));
   }
-  return Result<bool>::Success(true);
+  return Result<void>::Success();
 }
 
 } // namespace krocore::utility

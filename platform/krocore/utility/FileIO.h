@@ -17,6 +17,6 @@ KROCORE_API Result<std::string> ReadFileBytes(const std::filesystem::path& path,
 /// Writes a file so that it is either the complete new content or untouched:
 /// the bytes go to a temporary file beside it, are flushed to the disk, and
 /// the temporary file is renamed over the old one only then.
-KROCORE_API Result<bool> WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes);
+KROCORE_API Result<void> WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes);
 
 } // namespace krocore::utility
