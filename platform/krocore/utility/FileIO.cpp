@@ -77,4 +77,18 @@ Result<void> WriteFileAtomically(const std::filesystem::path& path, std::string_
   return Result<void>::Success();
 }
 
+Result<std::filesystem::path> KeepBackupCopy(const std::filesystem::path& path) {
+  constexpr int kMaxBackups = 100; // past that, something keeps failing: say so
+  for (int number = 1; number <= kMaxBackups; ++number) {
+    std::filesystem::path backup = path;
+    backup += number == 1 ? std::string(".bak") : ".bak." + std::to_string(number);
+    std::error_code error;
+    if (std::filesystem::exists(backup, error)) continue;
+    if (std::filesystem::copy_file(path, backup, std::filesystem::copy_options::none, error))
+      return Result<std::filesystem::path>::Success(std::move(backup));
+    return Result<std::filesystem::path>::Failure(Describe(path, "could not be copied: " + error.message()));
+  }
+  return Result<std::filesystem::path>::Failure(Describe(path, "has too many backup copies beside it"));
+}
+
 } // namespace krocore::utility

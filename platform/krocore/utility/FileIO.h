@@ -19,4 +19,9 @@ KROCORE_API Result<std::string> ReadFileBytes(const std::filesystem::path& path,
 /// the temporary file is renamed over the old one only then.
 KROCORE_API Result<void> WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes);
 
+/// Copies a file beside itself under the first free name of "<name>.bak",
+/// "<name>.bak.2", ... (an existing copy is never replaced) and answers the
+/// copy's path.
+KROCORE_API Result<std::filesystem::path> KeepBackupCopy(const std::filesystem::path& path);
+
 } // namespace krocore::utility
