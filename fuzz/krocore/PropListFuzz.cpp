@@ -1,5 +1,6 @@
-// Property-list text comes from files a user can damage: reading any bytes
-// must fail cleanly or give a list whose text form reads back to itself.
+// Property-list text (JSON) comes from files a user can damage: reading any
+// bytes must fail cleanly or give a list whose text form reads back to an
+// equal list with the same text.
 #include <krocore/proplist/PropList.h>
 
 #include <cstdint>
@@ -15,6 +16,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   }
   const std::string written = read.Value().ToText();
   auto again = krocore::proplist::PropList::FromText(written);
-  if (!again || again.Value().ToText() != written) std::abort();
+  if (!again || again.Value() != read.Value() || again.Value().ToText() != written) std::abort();
   return 0;
 }

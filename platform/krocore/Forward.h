@@ -13,6 +13,7 @@ class StringUTF16OutputStream;
 
 namespace krocore::utility {
 class ImmutableString;
+class StringArena;
 class EnableSharedAs;
 template <typename T>
 class Flags;

@@ -2,6 +2,8 @@
 
 #include <zel/appearance/ColorManager.h>
 
+#include <krocore/utility/Hash.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -37,8 +39,7 @@ private:
   };
 
   std::size_t SlotOf(const char* key) const noexcept {
-    return static_cast<std::size_t>((reinterpret_cast<std::uintptr_t>(key) * 0x9E3779B97F4A7C15ull) >>
-                                    mShift) &
+    return static_cast<std::size_t>(krocore::utility::GoldenMix(reinterpret_cast<std::uintptr_t>(key)) >> mShift) &
            mMask;
   }
   void Grow();

@@ -6,7 +6,7 @@
 
 namespace ZEL {
 
-krocore::utility::Result<bool> ThemeResources::Install(Variant variant) {
+krocore::utility::Result<void> ThemeResources::Install(Variant variant) {
   std::initializer_list<std::u16string_view> standard = {kLegacyPalette, kCurrentPalette};
   std::initializer_list<std::u16string_view> highContrast = {kLegacyPalette, kCurrentPalette,
                                                              kHighContrastPalette};
@@ -14,7 +14,7 @@ krocore::utility::Result<bool> ThemeResources::Install(Variant variant) {
     auto loaded = kroui::ui::Theme::Get().LoadFromModule(kModule, kThemeType, name);
     if (!loaded) return loaded;
   }
-  return krocore::utility::Result<bool>::Success(true);
+  return krocore::utility::Result<void>::Success();
 }
 
 } // namespace ZEL

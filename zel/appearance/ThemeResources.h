@@ -28,7 +28,7 @@ public:
   /// Loads the legacy and the current palette into the platform theme, and
   /// for HighContrast the high-contrast palette over them. Each file loaded
   /// notifies a theme change.
-  static krocore::utility::Result<bool> Install(Variant variant = Variant::Standard);
+  static krocore::utility::Result<void> Install(Variant variant = Variant::Standard);
 
   ThemeResources() = delete;
 };

@@ -130,7 +130,7 @@ public:
   const ChildSurfaceRecord* FindChildSurface(HWND surface) const;
   /// The live child surfaces of a window, oldest first.
   std::vector<HWND> GetChildSurfaces(HWND window) const;
-  krocore::utility::Result<bool> WriteWindowPNG(HWND window, const std::filesystem::path& path) const;
+  krocore::utility::Result<void> WriteWindowPNG(HWND window, const std::filesystem::path& path) const;
 
   // The desktop.
   /// Replaces the monitors; the first is the primary one. An empty list is refused.

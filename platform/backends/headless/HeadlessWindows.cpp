@@ -153,11 +153,11 @@ drawbot::Image HeadlessBackend::GetWindowImage(HWND window) const {
   return found ? found->record.pixels : drawbot::Image();
 }
 
-krocore::utility::Result<bool> HeadlessBackend::WriteWindowPNG(HWND window, const std::filesystem::path& path) const {
+krocore::utility::Result<void> HeadlessBackend::WriteWindowPNG(HWND window, const std::filesystem::path& path) const {
   const HeadlessWindow* found = mState->Find(window);
-  if (!found) return krocore::utility::Result<bool>::Failure("No such headless window");
+  if (!found) return krocore::utility::Result<void>::Failure("No such headless window");
   if (!found->record.pixels.IsValid()) {
-    return krocore::utility::Result<bool>::Failure("The window has not been painted yet");
+    return krocore::utility::Result<void>::Failure("The window has not been painted yet");
   }
   return drawbot::WritePNG(found->record.pixels, path);
 }

@@ -46,7 +46,7 @@ public:
   /// The whole store as file bytes, whatever group is open.
   virtual std::string ToBytes() const = 0;
   /// Writes ToBytes() atomically: when saving fails, the previous file is untouched.
-  virtual krocore::utility::Result<bool> Save(const std::filesystem::path& path) const = 0;
+  virtual krocore::utility::Result<void> Save(const std::filesystem::path& path) const = 0;
   /// Empties the store and returns to the top.
   virtual void Clear() = 0;
 };

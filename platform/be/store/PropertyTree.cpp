@@ -1,5 +1,7 @@
 #include <be/store/PropertyTreeImpl.h>
 
+#include <krocore/utility/Hash.h>
+
 #include <random>
 
 namespace BE::detail {
@@ -23,8 +25,7 @@ PropertyTree::PropertyTree() : mGroups(1), mTable(kInitialTableSize) {}
 
 std::uint32_t PropertyTree::Hash(Index group, std::string_view key) const noexcept {
   // FNV-1a over the key, started from the seed mixed with the group.
-  std::uint64_t hash = ProcessSeed() ^ (std::uint64_t{group} * 0x9E3779B97F4A7C15ull);
-  for (unsigned char c : key) hash = (hash ^ c) * 1099511628211ull;
+  const std::uint64_t hash = krocore::utility::Fnv1a(key, ProcessSeed() ^ krocore::utility::GoldenMix(group));
   return static_cast<std::uint32_t>(hash ^ (hash >> 32));
 }
 

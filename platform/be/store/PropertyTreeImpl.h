@@ -4,7 +4,7 @@
 // reader fills, without an allocation per key or value.
 
 #include <be/store/PropertyValueType.h>
-#include <be/store/StringArenaImpl.h>
+#include <krocore/utility/StringArena.h>
 
 #include <bit>
 #include <cstdint>
@@ -88,7 +88,7 @@ private:
   std::vector<Entry> mEntries;
   std::vector<Group> mGroups;
   std::vector<Slot> mTable;
-  StringArena mStrings;
+  krocore::utility::StringArena mStrings;
 };
 
 } // namespace BE::detail

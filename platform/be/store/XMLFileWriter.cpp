@@ -67,7 +67,7 @@ bool XMLFileWriter::CloseGroup() {
 
 std::string XMLFileWriter::ToBytes() const { return FormatXML(mTree); }
 
-krocore::utility::Result<bool> XMLFileWriter::Save(const std::filesystem::path& path) const {
+krocore::utility::Result<void> XMLFileWriter::Save(const std::filesystem::path& path) const {
   return krocore::utility::WriteFileAtomically(path, ToBytes());
 }
 

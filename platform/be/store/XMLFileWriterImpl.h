@@ -20,7 +20,7 @@ public:
   bool OpenGroup(std::string_view key) override;
   bool CloseGroup() override;
   std::string ToBytes() const override;
-  krocore::utility::Result<bool> Save(const std::filesystem::path& path) const override;
+  krocore::utility::Result<void> Save(const std::filesystem::path& path) const override;
   void Clear() override;
 
 private:

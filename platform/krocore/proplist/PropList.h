@@ -12,14 +12,17 @@
 namespace krocore::proplist {
 
 /// A nested, typed property list: the saved state of a panel, a settings file.
-/// Keys are kept sorted, so the text form of equal lists is the same text:
+/// Its text form is JSON with the keys sorted, so equal lists give the same
+/// text. Integers and reals stay apart (a whole real is written "2.0"):
 ///
 ///   {
-///     "name" = "Timeline";
-///     "size" = { "height" = 480; "width" = 640; };
-///     "tabs" = ( 1, 2, 3 );
-///     "zoom" = 1.5;
+///     "name": "Timeline",
+///     "size": { "height": 480, "width": 640 },
+///     "tabs": [ 1, 2, 3 ],
+///     "zoom": 1.5
 ///   }
+///
+/// JSON has no infinities or NaN: such a real is written as null.
 class KROCORE_API PropList {
 public:
   PropList();
@@ -51,8 +54,9 @@ public:
 
   /// The stable text form; FromText(ToText()) gives back an equal list.
   std::string ToText() const;
-  /// Reads the text form. Nesting deeper than kMaxDepth and other damage give
-  /// a failure that names the line, never a partial list.
+  /// Reads the text form: an object at the top. Nesting deeper than kMaxDepth,
+  /// a key given twice, an integer beyond 64 bits and other damage give a
+  /// failure that names the line and column, never a partial list.
   static utility::Result<PropList> FromText(std::string_view text);
 
   static constexpr int kMaxDepth = 64;

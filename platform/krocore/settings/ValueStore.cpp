@@ -5,9 +5,36 @@
 namespace krocore::settings {
 namespace {
 
+using utility::Result;
+
 // A settings file is a handful of values; anything near this size is not one.
 constexpr std::size_t kMaxFileBytes = 16 * 1024 * 1024;
-constexpr std::string_view kFileHeader = "# ZEL values 1\n";
+// The first line of every file in the format used before JSON.
+constexpr std::string_view kOldFormatHeader = "# ZEL values";
+constexpr std::string_view kKeptOnSave = "; it is left as it is, and saving keeps it as a \".bak\" copy beside it";
+
+Result<proplist::PropList> ReadValues(const std::filesystem::path& path) {
+  auto bytes = utility::ReadFileBytes(path, kMaxFileBytes);
+  if (!bytes) return Result<proplist::PropList>::Failure(bytes.Error());
+  const std::string name = "\"" + path.string() + "\"";
+  if (bytes.Value().starts_with(kOldFormatHeader))
+    return Result<proplist::PropList>::Failure(name + " was saved in an older format that cannot be read" +
+                                               std::string(kKeptOnSave));
+  auto values = proplist::PropList::FromText(bytes.Value());
+  if (!values)
+    return Result<proplist::PropList>::Failure(name + " is damaged: " + values.Error() + std::string(kKeptOnSave));
+  return values;
+}
+
+// A file that does not load may hold the user's values in a form that this
+// version cannot read: saving over it keeps a copy first, or saves nothing.
+Result<void> KeepUnreadableFile(const std::filesystem::path& path) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(path, error) || ReadValues(path)) return Result<void>::Success();
+  auto kept = utility::KeepBackupCopy(path);
+  if (!kept) return Result<void>::Failure(kept.Error() + ", so it was not saved over");
+  return Result<void>::Success();
+}
 
 } // namespace
 
@@ -96,22 +123,21 @@ void ValueStore::Notify(const std::vector<std::string>& names) {
     for (const auto& [id, observer] : observers) observer(name);
 }
 
-utility::Result<bool> ValueStore::SaveToFile(const std::filesystem::path& path) const {
-  std::string text(kFileHeader);
+utility::Result<void> ValueStore::SaveToFile(const std::filesystem::path& path) const {
+  std::string text;
   {
     std::lock_guard lock(mMutex);
-    text += mValues.ToText();
+    text = mValues.ToText();
   }
+  if (auto kept = KeepUnreadableFile(path); !kept) return kept;
   return utility::WriteFileAtomically(path, text);
 }
 
-utility::Result<bool> ValueStore::LoadFromFile(const std::filesystem::path& path) {
-  auto bytes = utility::ReadFileBytes(path, kMaxFileBytes);
-  if (!bytes) return utility::Result<bool>::Failure(bytes.Error());
-  auto values = proplist::PropList::FromText(bytes.Value());
-  if (!values) return utility::Result<bool>::Failure("\"" + path.string() + "\" is damaged: " + values.Error());
+utility::Result<void> ValueStore::LoadFromFile(const std::filesystem::path& path) {
+  auto values = ReadValues(path);
+  if (!values) return utility::Result<void>::Failure(values.Error());
   for (const auto& [name, value] : values.Value().Entries()) Set(name, value);
-  return utility::Result<bool>::Success(true);
+  return utility::Result<void>::Success();
 }
 
 } // namespace krocore::settings

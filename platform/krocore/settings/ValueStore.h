@@ -44,12 +44,14 @@ public:
   ObserverID AddObserver(Observer observer);
   void RemoveObserver(ObserverID id);
 
-  /// Writes all values to a file: the new text goes beside the old file and
-  /// replaces it only when complete, so a failed save keeps the old file.
-  utility::Result<bool> SaveToFile(const std::filesystem::path& path) const;
+  /// Writes all values to a file as JSON: the new text goes beside the old
+  /// file and replaces it only when complete, so a failed save keeps the old
+  /// file. An old file that does not load (an older format, damage) is first
+  /// kept as "<name>.bak"; when that copy cannot be made, nothing is saved.
+  utility::Result<void> SaveToFile(const std::filesystem::path& path) const;
   /// Reads values from a file and sets each (notifying observers). A missing
-  /// or damaged file changes nothing and says why.
-  utility::Result<bool> LoadFromFile(const std::filesystem::path& path);
+  /// or damaged file, or one in an older format, changes nothing and says why.
+  utility::Result<void> LoadFromFile(const std::filesystem::path& path);
 
 private:
   void Notify(const std::vector<std::string>& names);

@@ -60,21 +60,35 @@ Result<std::string> ReadFileBytes(const std::filesystem::path& path, std::size_t
   return Result<std::string>::Success(std::move(bytes));
 }
 
-Result<bool> WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes) {
+Result<void> WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes) {
   const std::filesystem::path temporary = TemporaryBeside(path);
   if (!WriteAndSync(temporary, bytes)) {
     std::error_code ignored;
     std::filesystem::remove(temporary, ignored);
-    return Result<bool>::Failure(Describe(path, "could not be written"));
+    return Result<void>::Failure(Describe(path, "could not be written"));
   }
   std::error_code error;
   std::filesystem::rename(temporary, path, error);
   if (error) {
     std::error_code ignored;
     std::filesystem::remove(temporary, ignored);
-    return Result<bool>::Failure(Describe(path, "could not be replaced"));
+    return Result<void>::Failure(Describe(path, "could not be replaced"));
   }
-  return Result<bool>::Success(true);
+  return Result<void>::Success();
+}
+
+Result<std::filesystem::path> KeepBackupCopy(const std::filesystem::path& path) {
+  constexpr int kMaxBackups = 100; // past that, something keeps failing: say so
+  for (int number = 1; number <= kMaxBackups; ++number) {
+    std::filesystem::path backup = path;
+    backup += number == 1 ? std::string(".bak") : ".bak." + std::to_string(number);
+    std::error_code error;
+    if (std::filesystem::exists(backup, error)) continue;
+    if (std::filesystem::copy_file(path, backup, std::filesystem::copy_options::none, error))
+      return Result<std::filesystem::path>::Success(std::move(backup));
+    return Result<std::filesystem::path>::Failure(Describe(path, "could not be copied: " + error.message()));
+  }
+  return Result<std::filesystem::path>::Failure(Describe(path, "has too many backup copies beside it"));
 }
 
 } // namespace krocore::utility

@@ -1,26 +1,20 @@
 #include <krocore/utility/ImmutableString.h>
 
+#include <krocore/utility/Hash.h>
+#include <krocore/utility/StringArena.h>
+
 #include <array>
-#include <cstdlib>
 #include <cstring>
-#include <memory>
 #include <mutex>
-#include <new>
 #include <shared_mutex>
 #include <unordered_set>
-#include <vector>
 
 namespace krocore::utility {
 namespace {
 
 using Entry = ImmutableString::Entry;
 
-std::size_t HashText(std::string_view text) noexcept {
-  // FNV-1a: short keys dominate, and it needs no seed to stay stable.
-  std::size_t hash = 14695981039346656037ull;
-  for (unsigned char c : text) hash = (hash ^ c) * 1099511628211ull;
-  return hash;
-}
+std::size_t HashText(std::string_view text) noexcept { return static_cast<std::size_t>(Fnv1a(text)); }
 
 struct EntryHash {
   using is_transparent = void;
@@ -37,50 +31,23 @@ struct EntryEqual {
 };
 
 // Interned texts live for the whole process, so they are carved from large
-// blocks instead of being allocated one by one.
-class Arena {
-public:
-  Entry* Make(std::string_view text, std::size_t hash) {
-    const std::size_t bytes = Align(offsetof(Entry, text) + text.size() + 1);
-    void* memory = bytes > kBlockSize / 4 ? AllocateLarge(bytes) : Allocate(bytes);
-    auto* entry = static_cast<Entry*>(memory);
-    entry->hash = hash;
-    entry->length = text.size();
-    char* chars = static_cast<char*>(memory) + offsetof(Entry, text);
-    if (!text.empty()) std::memcpy(chars, text.data(), text.size());
-    chars[text.size()] = '\0';
-    return entry;
-  }
-
-private:
-  static constexpr std::size_t kBlockSize = 64 * 1024;
-  static std::size_t Align(std::size_t n) { return (n + alignof(Entry) - 1) & ~(alignof(Entry) - 1); }
-
-  void* Allocate(std::size_t bytes) {
-    if (mBlocks.empty() || mUsed + bytes > kBlockSize) {
-      mBlocks.push_back(std::make_unique<std::byte[]>(kBlockSize));
-      mUsed = 0;
-    }
-    void* memory = mBlocks.back().get() + mUsed;
-    mUsed += bytes;
-    return memory;
-  }
-
-  void* AllocateLarge(std::size_t bytes) {
-    mLarge.push_back(std::make_unique<std::byte[]>(bytes));
-    return mLarge.back().get();
-  }
-
-  std::vector<std::unique_ptr<std::byte[]>> mBlocks;
-  std::vector<std::unique_ptr<std::byte[]>> mLarge;
-  std::size_t mUsed = 0;
-};
+// blocks instead of being allocated one by one: header and text in one piece.
+Entry* MakeEntry(StringArena& arena, std::string_view text, std::size_t hash) {
+  void* memory = arena.Allocate(offsetof(Entry, text) + text.size() + 1, alignof(Entry));
+  auto* entry = static_cast<Entry*>(memory);
+  entry->hash = hash;
+  entry->length = text.size();
+  char* chars = static_cast<char*>(memory) + offsetof(Entry, text);
+  if (!text.empty()) std::memcpy(chars, text.data(), text.size());
+  chars[text.size()] = '\0';
+  return entry;
+}
 
 // Sharded by hash so that threads interning different texts rarely meet.
 struct Shard {
   std::shared_mutex mutex;
   std::unordered_set<const Entry*, EntryHash, EntryEqual> entries;
-  Arena arena;
+  StringArena arena{64 * 1024}; // guarded by the shard's mutex
 };
 
 constexpr std::size_t kShardCount = 16;
@@ -100,7 +67,7 @@ const Entry* Intern(std::string_view text) {
   }
   std::unique_lock lock(shard.mutex);
   if (auto it = shard.entries.find(text); it != shard.entries.end()) return *it;
-  const Entry* entry = shard.arena.Make(text, hash);
+  const Entry* entry = MakeEntry(shard.arena, text, hash);
   shard.entries.insert(entry);
   return entry;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cassert>
+#include <optional>
 #include <string>
 #include <utility>
 #include <variant>
@@ -34,6 +35,29 @@ private:
   Result(std::in_place_index_t<I> index, V&& value) : mState(index, std::forward<V>(value)) {}
 
   std::variant<T, std::string> mState;
+};
+
+/// What an operation that only succeeds or fails returns (a save, a load into
+/// existing state): success carries nothing, a failure its message.
+template <>
+class Result<void> {
+public:
+  static Result Success() { return Result(std::nullopt); }
+  static Result Failure(std::string message) { return Result(std::move(message)); }
+
+  bool IsSuccess() const noexcept { return !mError.has_value(); }
+  explicit operator bool() const noexcept { return IsSuccess(); }
+
+  /// The message of a failure; empty on success.
+  const std::string& Error() const {
+    static const std::string kNone;
+    return mError ? *mError : kNone;
+  }
+
+private:
+  explicit Result(std::optional<std::string> error) : mError(std::move(error)) {}
+
+  std::optional<std::string> mError;
 };
 
 } // namespace krocore::utility

@@ -75,11 +75,11 @@ void RasterSurface::Clear(const ColorRGBA& color) {
   cairo_surface_mark_dirty(surface);
 }
 
-krocore::utility::Result<bool> RasterSurface::WritePNG(const std::filesystem::path& path) const {
+krocore::utility::Result<void> RasterSurface::WritePNG(const std::filesystem::path& path) const {
   return raster::WriteSurfacePNG(mState->surface, path);
 }
 
-krocore::utility::Result<bool> WritePNG(const Image& image, const std::filesystem::path& path) {
+krocore::utility::Result<void> WritePNG(const Image& image, const std::filesystem::path& path) {
   return raster::WriteImagePNG(image, path);
 }
 

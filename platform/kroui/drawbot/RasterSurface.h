@@ -40,7 +40,7 @@ public:
   /// Sets every pixel to one colour (replacing, not blending), outside any drawing pass.
   void Clear(const ColorRGBA& color);
 
-  krocore::utility::Result<bool> WritePNG(const std::filesystem::path& path) const;
+  krocore::utility::Result<void> WritePNG(const std::filesystem::path& path) const;
 
 private:
   struct State;
@@ -48,7 +48,7 @@ private:
 };
 
 /// PNG files to and from images, through the same library the raster surface uses.
-KROUI_API krocore::utility::Result<bool> WritePNG(const Image& image, const std::filesystem::path& path);
+KROUI_API krocore::utility::Result<void> WritePNG(const Image& image, const std::filesystem::path& path);
 KROUI_API krocore::utility::Result<Image> ReadPNG(const std::filesystem::path& path);
 /// The same for PNG bytes in memory (a resource compiled into a module).
 KROUI_API krocore::utility::Result<Image> DecodePNG(std::span<const unsigned char> bytes);

@@ -67,9 +67,9 @@ void Theme::SetBrightness(float brightness) {
 
 void Theme::NotifyThemeChanged() { CallThemeChangedFunctions(); }
 
-krocore::utility::Result<bool> Theme::Load(std::string_view xml) {
+krocore::utility::Result<void> Theme::Load(std::string_view xml) {
   auto document = ThemeReader::Read(xml);
-  if (!document) return krocore::utility::Result<bool>::Failure(document.Error());
+  if (!document) return krocore::utility::Result<void>::Failure(document.Error());
   {
     std::lock_guard lock(mPaletteLock);
     auto merged = std::make_shared<Palette>(*mPalette);
@@ -77,14 +77,14 @@ krocore::utility::Result<bool> Theme::Load(std::string_view xml) {
     mPalette = std::move(merged);
   }
   NotifyThemeChanged();
-  return krocore::utility::Result<bool>::Success(true);
+  return krocore::utility::Result<void>::Success();
 }
 
-krocore::utility::Result<bool> Theme::LoadFromModule(std::string_view module, std::u16string_view type,
+krocore::utility::Result<void> Theme::LoadFromModule(std::string_view module, std::u16string_view type,
                                                      std::u16string_view name) {
   const auto bytes = krocore::utility::GetBinaryFromModule(module, type, name);
   if (bytes.IsEmpty())
-    return krocore::utility::Result<bool>::Failure("The module " + std::string(module) + " holds no theme " +
+    return krocore::utility::Result<void>::Failure("The module " + std::string(module) + " holds no theme " +
                                                    krocore::string::UTF16to8(name));
   return Load(bytes.AsText());
 }

@@ -40,9 +40,9 @@ public:
   /// Adds a theme file's colours, fonts and values; an ID, font or value the
   /// file gives replaces what an earlier file said of it. Notifies. A file
   /// that cannot be read changes nothing.
-  krocore::utility::Result<bool> Load(std::string_view xml);
+  krocore::utility::Result<void> Load(std::string_view xml);
   /// The same for a resource compiled into a module.
-  krocore::utility::Result<bool> LoadFromModule(std::string_view module, std::u16string_view type,
+  krocore::utility::Result<void> LoadFromModule(std::string_view module, std::u16string_view type,
                                                 std::u16string_view name);
   /// Forgets every file and returns to the default brightness. Notifies.
   void Reset();

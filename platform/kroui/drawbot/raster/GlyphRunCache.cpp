@@ -1,5 +1,7 @@
 #include <kroui/drawbot/raster/GlyphRunCacheImpl.h>
 
+#include <krocore/utility/Hash.h>
+
 #include <functional>
 
 namespace kroui::drawbot::raster {
@@ -8,7 +10,7 @@ std::size_t GlyphRunCache::KeyHash::operator()(const KeyView& key) const noexcep
   const std::size_t text = std::hash<std::string_view>{}(key.text);
   const std::size_t font =
       (static_cast<std::size_t>(key.fontRow) << 32) ^ static_cast<std::uint32_t>(key.size64);
-  return text ^ (font + 0x9E3779B97F4A7C15ull + (text << 6) + (text >> 2));
+  return krocore::utility::HashCombine(text, font);
 }
 
 GlyphRunCache::GlyphRunCache(std::size_t capacity) : mCapacity(capacity == 0 ? 1 : capacity) {

@@ -68,20 +68,20 @@ Image CopySurfacePixels(cairo_surface_t* surface) {
   return Image(width, height, std::move(pixels));
 }
 
-Result<bool> WriteSurfacePNG(cairo_surface_t* surface, const std::filesystem::path& path) {
+Result<void> WriteSurfacePNG(cairo_surface_t* surface, const std::filesystem::path& path) {
   cairo_surface_flush(surface);
   const cairo_status_t status = cairo_surface_write_to_png(surface, FileName(path).c_str());
-  if (status != CAIRO_STATUS_SUCCESS) return Result<bool>::Failure(Describe("write", path, status));
-  return Result<bool>::Success(true);
+  if (status != CAIRO_STATUS_SUCCESS) return Result<void>::Failure(Describe("write", path, status));
+  return Result<void>::Success();
 }
 
-Result<bool> WriteImagePNG(const Image& image, const std::filesystem::path& path) {
+Result<void> WriteImagePNG(const Image& image, const std::filesystem::path& path) {
   if (!image.IsValid())
-    return Result<bool>::Failure("An empty image cannot be written as PNG: " + FileName(path));
+    return Result<void>::Failure("An empty image cannot be written as PNG: " + FileName(path));
   auto* data = reinterpret_cast<unsigned char*>(const_cast<std::uint32_t*>(image.Pixels()));
   cairo_surface_t* surface = cairo_image_surface_create_for_data(data, CAIRO_FORMAT_ARGB32, image.GetWidth(),
                                                                  image.GetHeight(), image.GetWidth() * 4);
-  Result<bool> result = WriteSurfacePNG(surface, path);
+  Result<void> result = WriteSurfacePNG(surface, path);
   cairo_surface_destroy(surface);
   return result;
 }

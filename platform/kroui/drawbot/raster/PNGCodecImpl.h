@@ -11,8 +11,8 @@
 
 namespace kroui::drawbot::raster {
 
-krocore::utility::Result<bool> WriteSurfacePNG(cairo_surface_t* surface, const std::filesystem::path& path);
-krocore::utility::Result<bool> WriteImagePNG(const Image& image, const std::filesystem::path& path);
+krocore::utility::Result<void> WriteSurfacePNG(cairo_surface_t* surface, const std::filesystem::path& path);
+krocore::utility::Result<void> WriteImagePNG(const Image& image, const std::filesystem::path& path);
 /// Any PNG Cairo reads, as premultiplied ARGB whatever its own format.
 krocore::utility::Result<Image> ReadImagePNG(const std::filesystem::path& path);
 krocore::utility::Result<Image> DecodeImagePNG(std::span<const unsigned char> bytes);

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -74,7 +75,7 @@ TEST_F(ValueStoreTest, SavedValuesLoadIntoAnotherStore) {
 TEST_F(ValueStoreTest, DamagedOrMissingFileChangesNothingAndSaysWhy) {
   mStore.Set("Kept", 1);
   const auto path = mFolder / "damaged.txt";
-  std::ofstream(path) << "{ \"Kept\" = 2; \"Half\" = ";
+  std::ofstream(path) << "{ \"Kept\": 2, \"Half\": ";
   auto loaded = mStore.LoadFromFile(path);
   ASSERT_FALSE(loaded);
   EXPECT_NE(loaded.Error().find("is damaged: line 1"), std::string::npos) << loaded.Error();
@@ -109,6 +110,53 @@ TEST_F(ValueStoreTest, FailedSaveLeavesWhatWasThereAndNoTemporaryFile) {
   ValueStore reread;
   ASSERT_TRUE(reread.LoadFromFile(path));
   EXPECT_EQ(reread.GetInteger("Version", 0), 1);
+}
+
+std::string ReadAll(const std::filesystem::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+constexpr const char* kOldFormat = "# ZEL values 1\n{\n  \"FE.Prefs.Shortcuts.Filename\" = \"Mine.kys\";\n}\n";
+
+TEST_F(ValueStoreTest, AFileInTheOldFormatIsRefusedClearlyAndLeftAsItIs) {
+  const auto path = mFolder / "prefs.txt";
+  std::ofstream(path) << kOldFormat;
+  mStore.Set("Kept", 1);
+  auto loaded = mStore.LoadFromFile(path);
+  ASSERT_FALSE(loaded);
+  EXPECT_NE(loaded.Error().find("older format"), std::string::npos) << loaded.Error();
+  EXPECT_NE(loaded.Error().find(".bak"), std::string::npos) << loaded.Error();
+  EXPECT_EQ(mStore.GetInteger("Kept", 0), 1);
+  EXPECT_EQ(ReadAll(path), kOldFormat);
+}
+
+TEST_F(ValueStoreTest, SavingOverAnUnreadableFileKeepsItBesideFirst) {
+  const auto path = mFolder / "prefs.txt";
+  std::ofstream(path) << kOldFormat;
+  std::ofstream(mFolder / "prefs.txt.bak") << "an earlier copy";
+  mStore.Set("Zoom", 2.0);
+  auto saved = mStore.SaveToFile(path);
+  ASSERT_TRUE(saved) << saved.Error();
+  EXPECT_EQ(ReadAll(mFolder / "prefs.txt.bak"), "an earlier copy");
+  EXPECT_EQ(ReadAll(mFolder / "prefs.txt.bak.2"), kOldFormat);
+  EXPECT_EQ(ReadAll(path), "{\n  \"Zoom\": 2.0\n}\n");
+
+  // The file reads now: saving again makes no more copies.
+  ASSERT_TRUE(mStore.SaveToFile(path));
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(mFolder), std::filesystem::directory_iterator()), 3);
+}
+
+TEST_F(ValueStoreTest, AnUnreadableFileThatCannotBeKeptIsNotSavedOver) {
+  const auto path = mFolder / "prefs.txt";
+  std::ofstream(path) << "{ damaged";
+  std::ofstream(mFolder / "prefs.txt.bak") << "";
+  for (int i = 2; i <= 100; ++i) std::ofstream(mFolder / ("prefs.txt.bak." + std::to_string(i))) << "";
+  mStore.Set("Zoom", 2.0);
+  auto saved = mStore.SaveToFile(path);
+  ASSERT_FALSE(saved);
+  EXPECT_NE(saved.Error().find("not saved over"), std::string::npos) << saved.Error();
+  EXPECT_EQ(ReadAll(path), "{ damaged");
 }
 
 TEST(SettingsAndPreferences, AreSeparateSingletons) {
