@@ -35,6 +35,7 @@ GOOD_TREE = {
         "#include <glib-object.h>\n",
     "platform/kroui/theme/ThemeReader.cpp": "#include <pugixml.hpp>\n",
     "platform/be/store/XMLFormat.cpp": "#include <pugixml.hpp>\n",
+    "platform/krocore/proplist/PropListJSON.cpp": "#include <nlohmann/json.hpp>\n",
     "platform/backends/headless/HeadlessBackend.h": "#include <kroui/backend/Backend.h>\n",
     "platform/backends/sdl/SDLBackend.cpp": "#include <SDL2/SDL.h>\n#include <kroui/ui/Node.h>\n",
     "platform/kroworkspace/Frame.cpp": "#include <kroui/ui/Node.h>\n",
@@ -130,8 +131,10 @@ class CheckLayering(unittest.TestCase):
         self.assert_fails_with(
             {"platform/kroui/theme/ThemeEngine.cpp": "#include <pugixml.hpp>\n",
              "platform/kroui/drawbot/Drawbot.cpp": '#include "cairo.h"\n',
-             "platform/backends/headless/HeadlessWindows.cpp": "#include <SDL.h>\n"},
+             "platform/backends/headless/HeadlessWindows.cpp": "#include <SDL.h>\n",
+             "platform/krocore/settings/ValueStore.cpp": "#include <nlohmann/json.hpp>\n"},
             [("platform/backends/headless/HeadlessWindows.cpp:1", ["SDL"]),
+             ("platform/krocore/settings/ValueStore.cpp:1", ["nlohmann-json", "PropListJSON.cpp"]),
              ("platform/kroui/drawbot/Drawbot.cpp:1", ["Cairo"]),
              ("platform/kroui/theme/ThemeEngine.cpp:1", ["pugixml"])])
 
