@@ -5,6 +5,8 @@
 #include <kls/ParamColor.h>
 
 #include <zel/Localization.h>
+#include <zel/application/Application.h>
+#include <zel/application/MessageBox.h>
 #include <zel/commands/AnalyticsUtils.h>
 #include <zel/commands/Command.h>
 #include <zel/commands/CommandContext.h>
@@ -17,7 +19,6 @@
 #include <zel/commands/ShortcutManager.h>
 #include <zel/commands/ShortcutSetFile.h>
 #include <zel/commands/SyntheticCommand.h>
-#include <zel/views/MessageBox.h>
 #include <zel/appearance/ColorManager.h>
 #include <zel/appearance/ThemeChangedMessage.h>
 #include <zel/appearance/ThemeResources.h>
@@ -30,7 +31,6 @@
 #include <zel/views/SubView.h>
 #include <zel/views/ViewBase.h>
 #include <zel/appearance/Cursor.h>
-#include <zel/views/Application.h>
 #include <zel/views/OverlayView.h>
 #include <zel/views/ScrollBar.h>
 #include <zel/views/ScrollBarMessages.h>

@@ -3,8 +3,8 @@
 #include <zel/commands/ShortcutManager.h>
 
 #include <zel/Localization.h>
+#include <zel/application/MessageBox.h>
 #include <zel/commands/ShortcutSetFile.h>
-#include <zel/views/MessageBox.h>
 
 #include <krocore/config/TopLevel.h>
 #include <krocore/settings/Preferences.h>
