@@ -109,9 +109,9 @@ bool ShortcutManager::CheckMinimalShortcut(const KeyboardEvent& event) {
   ShortcutManager* manager = Instance();
   if (!manager) return false;
   if (manager->DispatchKeyboardEvent(event, true)) return true;
-  if (manager->mOverrideMode != 0) manager->SetOverrideMode(0);
+  manager->SetOverrideMode(kOverrideMode_MinimalMap);
   const bool consumed = manager->DispatchKeyboardEvent(event, false);
-  if (manager->mOverrideMode != 1) manager->SetOverrideMode(1);
+  manager->SetOverrideMode(kOverrideMode_Everything);
   return consumed;
 }
 

@@ -11,6 +11,12 @@ std::unique_ptr<ShortcutManager> sInstance;
 
 constexpr std::size_t kRecentContextLimit = 64;
 
+// Commands that must run whatever holds the focus; the block of host
+// commands from kCommand_HostPreDispatchRangeFirst is added as a range.
+constexpr std::int32_t kBuiltInPreDispatchCommands[] = {
+    kCommand_New, kCommand_Open, kCommand_RecentFile1, kCommand_Exit, kCommand_HostPreDispatchA,
+    kCommand_HostPreDispatchB};
+
 } // namespace
 
 ShortcutManager* ShortcutManager::Instance() noexcept { return sInstance.get(); }
@@ -30,9 +36,9 @@ void ShortcutManager::SetOverrideMode(std::int32_t mode) noexcept {
   if (mode == mOverrideMode) return;
   mOverrideMode = mode;
   switch (mode) {
-  case 0: mMinimalMap = true, mAltPassesThrough = false; break;
-  case 1: mMinimalMap = false, mAltPassesThrough = false; break;
-  case 3: mMinimalMap = true, mAltPassesThrough = true; break;
+  case kOverrideMode_MinimalMap: mMinimalMap = true, mAltPassesThrough = false; break;
+  case kOverrideMode_Everything: mMinimalMap = false, mAltPassesThrough = false; break;
+  case kOverrideMode_MinimalMapAltToSystem: mMinimalMap = true, mAltPassesThrough = true; break;
   default: break;
   }
 }
@@ -70,8 +76,9 @@ bool ShortcutManager::IsMenuCommand(std::int32_t commandID) const {
 }
 
 void ShortcutManager::SetPreDispatchMap() {
-  mPreDispatchMap = {57600, 57601, 57616, 57665, 11200, 11905};
-  for (std::int32_t id = 11920; id <= 11929; ++id) mPreDispatchMap.push_back(id);
+  mPreDispatchMap.assign(std::begin(kBuiltInPreDispatchCommands), std::end(kBuiltInPreDispatchCommands));
+  for (std::int32_t id = kCommand_HostPreDispatchRangeFirst; id <= kCommand_HostPreDispatchRangeLast; ++id)
+    mPreDispatchMap.push_back(id);
   std::sort(mPreDispatchMap.begin(), mPreDispatchMap.end());
 }
 

@@ -40,13 +40,16 @@ public:
   bool DispatchKeyboardEvent(const kroui::ui::KeyboardEvent& event, bool preDispatch);
   static KeySpec MakeKeySpec(const kroui::ui::KeyboardEvent& event);
   bool CommandEnabled(const CommanderPtr& target, std::int32_t commandID);
-  /// Tries an event as a minimal shortcut; leaves the override mode at 1.
+  /// Tries an event as a minimal shortcut; leaves the override mode at kOverrideMode_Everything.
   static bool CheckMinimalShortcut(const kroui::ui::KeyboardEvent& event);
   void SuspendContextChanges() noexcept { mSuspended = true; }
   void ResumeContextChanges() noexcept { mSuspended = false; }
   bool IsSuspended() const noexcept { return mSuspended; }
 
-  /// 0: minimal map; 1: everything; 3: minimal map, and Alt keys go to the system.
+  /// The override modes: which key map dispatch reads, and where Alt keys go.
+  static constexpr std::int32_t kOverrideMode_MinimalMap = 0;            ///< only minimal shortcuts
+  static constexpr std::int32_t kOverrideMode_Everything = 1;            ///< every shortcut (the default)
+  static constexpr std::int32_t kOverrideMode_MinimalMapAltToSystem = 3; ///< minimal; Alt keys go to the system
   std::int32_t GetOverrideMode() const noexcept { return mOverrideMode; }
   void SetOverrideMode(std::int32_t mode) noexcept;
   bool UsesMinimalMap() const noexcept { return mMinimalMap; }
@@ -68,7 +71,9 @@ public:
   /// A command declared menu-kind in the current or the application context.
   bool IsMenuCommand(std::int32_t commandID) const;
 
-  // The pre-dispatch map: commands that go before the focused control.
+  // The pre-dispatch map: commands that go before the focused control. It
+  // starts with the standard file and application commands and the host's
+  // pre-dispatch commands (CommandTypes.h).
   void SetPreDispatchMap();
   void AddCommandtoPreDispatchMap(std::int32_t commandID);
   bool IsInPreDispatchMap(std::int32_t commandID) const;
@@ -134,7 +139,7 @@ private:
   CommandContext& CurrentContext() const { return *mContexts[mCurrentContextIndex]; }
   const CommandInfo* FindCommandForTooltip(std::int32_t commandID) const;
 
-  std::int32_t mOverrideMode = 1;
+  std::int32_t mOverrideMode = kOverrideMode_Everything;
   bool mMinimalMap = false;
   bool mAltPassesThrough = false;
   bool mSuspended = false;

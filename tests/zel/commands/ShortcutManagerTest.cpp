@@ -113,14 +113,14 @@ TEST_F(ShortcutManagerTest, AFocusedControlThatTakesTheKeyStopsTheShortcut) {
 }
 
 TEST_F(ShortcutManagerTest, PreDispatchCommandsGoBeforeTheControl) {
-  Declare("app.undo", 57601, KeySpec(kKeyK, true, false, false));
+  Declare("app.open", ZEL::kCommand_Open, KeySpec(kKeyK, true, false, false));
   Declare("panel.play", 600, KeySpec(kKeySpace, false, false, false));
   mPanel->DeclarePreDispatchCommand(600);
-  mApp->Handle(57601);
+  mApp->Handle(ZEL::kCommand_Open);
   mApp->Handle(600);
   bool controlSawKey = false;
   auto control = [&] { return controlSawKey = true, false; };
-  EXPECT_TRUE(DeliverKey(*mManager, Down(kKeyK, kCtrl), control)) << "57601 stands in the pre-dispatch map";
+  EXPECT_TRUE(DeliverKey(*mManager, Down(kKeyK, kCtrl), control)) << "Open stands in the pre-dispatch map";
   EXPECT_TRUE(DeliverKey(*mManager, Down(kKeySpace), control)) << "declared pre-dispatch by the context";
   EXPECT_FALSE(controlSawKey);
 }
@@ -155,10 +155,10 @@ TEST_F(ShortcutManagerTest, AltKeysPassThroughInModeThree) {
   mPanel->DeclareMinimalCommand(900);
   mField->Handle(900);
   const auto ctrlAlt = ModifierKeys::FromValue(0x14);
-  mManager->SetOverrideMode(3);
+  mManager->SetOverrideMode(ShortcutManager::kOverrideMode_MinimalMapAltToSystem);
   EXPECT_TRUE(mManager->UsesMinimalMap());
   EXPECT_FALSE(mManager->DispatchKeyboardEvent(Down(kKeyK, ctrlAlt), false));
-  mManager->SetOverrideMode(1);
+  mManager->SetOverrideMode(ShortcutManager::kOverrideMode_Everything);
   EXPECT_TRUE(mManager->DispatchKeyboardEvent(Down(kKeyK, ctrlAlt), false));
 }
 
@@ -167,12 +167,35 @@ TEST_F(ShortcutManagerTest, OverrideModesSetTheirFlags) {
     int mode;
     bool minimal, alt;
   };
-  for (const Row& row : {Row{0, true, false}, Row{1, false, false}, Row{3, true, true}, Row{7, true, true},
-                         Row{1, false, false}, Row{2, false, false}}) {
+  constexpr int kMinimal = ShortcutManager::kOverrideMode_MinimalMap;
+  constexpr int kEverything = ShortcutManager::kOverrideMode_Everything;
+  constexpr int kAltToSystem = ShortcutManager::kOverrideMode_MinimalMapAltToSystem;
+  constexpr int kUnknownMode = 7, kOtherUnknownMode = 2; // kept, and the flags stay as they were
+  for (const Row& row : {Row{kMinimal, true, false}, Row{kEverything, false, false}, Row{kAltToSystem, true, true},
+                         Row{kUnknownMode, true, true}, Row{kEverything, false, false},
+                         Row{kOtherUnknownMode, false, false}}) {
     mManager->SetOverrideMode(row.mode);
     EXPECT_EQ(mManager->UsesMinimalMap(), row.minimal) << "mode " << row.mode;
     EXPECT_EQ(mManager->AltPassesThrough(), row.alt) << "mode " << row.mode;
   }
+}
+
+TEST_F(ShortcutManagerTest, ThePreDispatchMapStartsWithTheFileApplicationAndHostCommands) {
+  for (int id : {ZEL::kCommand_New, ZEL::kCommand_Open, ZEL::kCommand_RecentFile1, ZEL::kCommand_Exit,
+                 ZEL::kCommand_HostPreDispatchA, ZEL::kCommand_HostPreDispatchB})
+    EXPECT_TRUE(mManager->IsInPreDispatchMap(id)) << id;
+  for (int id = ZEL::kCommand_HostPreDispatchRangeFirst; id <= ZEL::kCommand_HostPreDispatchRangeLast; ++id)
+    EXPECT_TRUE(mManager->IsInPreDispatchMap(id)) << id;
+  EXPECT_FALSE(mManager->IsInPreDispatchMap(ZEL::kCommand_HostPreDispatchRangeFirst - 1));
+  EXPECT_FALSE(mManager->IsInPreDispatchMap(ZEL::kCommand_HostPreDispatchRangeLast + 1));
+  EXPECT_FALSE(mManager->IsInPreDispatchMap(ZEL::kCommand_Copy)) << "editing commands wait for the control";
+
+  mManager->AddCommandtoPreDispatchMap(ZEL::kCommand_Copy);
+  mManager->AddCommandtoPreDispatchMap(ZEL::kCommand_Copy);
+  EXPECT_TRUE(mManager->IsInPreDispatchMap(ZEL::kCommand_Copy));
+  mManager->SetPreDispatchMap();
+  EXPECT_FALSE(mManager->IsInPreDispatchMap(ZEL::kCommand_Copy)) << "back to the built-in commands";
+  EXPECT_TRUE(mManager->IsInPreDispatchMap(ZEL::kCommand_Exit));
 }
 
 TEST_F(ShortcutManagerTest, BlockedDisabledAndUntargetedCommandsAreNotConsumed) {
@@ -231,11 +254,11 @@ TEST_F(ShortcutManagerTest, MinimalCheckLeavesModeOne) {
   Declare("full", 1401, KeySpec(kKeyL, false, false, false));
   mField->Handle(1400);
   mField->Handle(1401);
-  mManager->SetOverrideMode(3);
+  mManager->SetOverrideMode(ShortcutManager::kOverrideMode_MinimalMapAltToSystem);
   EXPECT_TRUE(ShortcutManager::CheckMinimalShortcut(Down(kKeyK)));
-  EXPECT_EQ(mManager->GetOverrideMode(), 1);
+  EXPECT_EQ(mManager->GetOverrideMode(), ShortcutManager::kOverrideMode_Everything);
   EXPECT_FALSE(ShortcutManager::CheckMinimalShortcut(Down(kKeyL))) << "not in the minimal map";
-  EXPECT_EQ(mManager->GetOverrideMode(), 1);
+  EXPECT_EQ(mManager->GetOverrideMode(), ShortcutManager::kOverrideMode_Everything);
 }
 
 TEST_F(ShortcutManagerTest, RecentContextsGroupsAndImmutableSets) {
