@@ -261,6 +261,54 @@ TEST_F(ShortcutManagerTest, MinimalCheckLeavesModeOne) {
   EXPECT_EQ(mManager->GetOverrideMode(), ShortcutManager::kOverrideMode_Everything);
 }
 
+TEST_F(ShortcutManagerTest, MinimalCheckBringsUpAManagerWhenThereIsNone) {
+  ShortcutManager::Finalize();
+  ASSERT_EQ(ShortcutManager::Instance(), nullptr);
+  EXPECT_FALSE(ShortcutManager::CheckMinimalShortcut(Down(kKeyK)));
+  ASSERT_NE(ShortcutManager::Instance(), nullptr);
+  EXPECT_EQ(ShortcutManager::Instance()->GetContextCount(), 1u) << "the application context";
+  EXPECT_TRUE(ShortcutManager::Instance()->IsInPreDispatchMap(ZEL::kCommand_Exit));
+  EXPECT_EQ(ShortcutManager::Instance()->GetOverrideMode(), ShortcutManager::kOverrideMode_Everything);
+}
+
+TEST_F(ShortcutManagerTest, KeysDuringADragGoToTheDragContextsDragEnabledCommands) {
+  auto& bin = mManager->AddContext("Bin", "Bin");
+  bin.DeclareCommand("bin.copyOnDrop", 1600, CommandKind::Action, "Copy on drop", {}, false);
+  bin.SetCommandShortcuts("bin.copyOnDrop", {KeySpec(kKeyK, false, false, false)});
+  bin.DeclareDragEnabledCommand(1600);
+  bin.DeclareCommand("bin.rename", 1601, CommandKind::Action, "Rename", {}, false);
+  bin.SetCommandShortcuts("bin.rename", {KeySpec(kKeyL, false, false, false)});
+  mField->Handle(1600);
+  mField->Handle(1601);
+  mManager->SetDragCommandContext("Bin");
+
+  EXPECT_FALSE(mManager->DispatchKeyboardEvent(Down(kKeyK), false)) << "no drag: Timeline has no K";
+  mManager->SetDragInProgress(true);
+  EXPECT_TRUE(mManager->IsDragInProgress());
+  EXPECT_TRUE(mManager->DispatchKeyboardEvent(Down(kKeyK), true)) << "even in the pre-dispatch pass";
+  EXPECT_TRUE(mManager->DispatchKeyboardEvent(Up(kKeyK), true));
+  EXPECT_FALSE(mManager->DispatchKeyboardEvent(Down(kKeyL), false)) << "not drag-enabled";
+  ASSERT_EQ(mField->Obeyed().size(), 2u);
+  EXPECT_EQ(mField->Obeyed()[0].GetPhase(), CommandPhase::Engaged);
+  EXPECT_EQ(mField->Obeyed()[1].GetPhase(), CommandPhase::Disengaged);
+
+  mManager->SetDragInProgress(false);
+  EXPECT_FALSE(mManager->DispatchKeyboardEvent(Down(kKeyK), false));
+  EXPECT_EQ(mField->Obeyed().size(), 2u);
+}
+
+TEST_F(ShortcutManagerTest, SuspensionAndTheCurrentContextAreReported) {
+  EXPECT_FALSE(mManager->IsSuspended());
+  mManager->SuspendContextChanges();
+  EXPECT_TRUE(mManager->IsSuspended());
+  mManager->ResumeContextChanges();
+  EXPECT_FALSE(mManager->IsSuspended());
+  EXPECT_EQ(mManager->GetCurrentContextName(), "Timeline");
+  EXPECT_EQ(&mManager->GetContext("Timeline"), mPanel);
+  EXPECT_EQ(&mManager->GetContext("NoSuchPanel"), &mManager->GetGlobalContext());
+  EXPECT_EQ(&mManager->GetContext(1), mPanel);
+}
+
 TEST_F(ShortcutManagerTest, RecentContextsGroupsAndImmutableSets) {
   mManager->AddContext("Source", "Source");
   mManager->ApplyContext("Source");
@@ -295,6 +343,18 @@ TEST_F(ShortcutManagerTest, TooltipsJoinTextAndShortcut) {
   mPanel->SetCommandShortcuts("clip.split", {KeySpec(kKeyK, true, false, false)});
   EXPECT_EQ(mManager->GetTooltipAndShortcutText(500), "Split Clip (Ctrl+K)");
   EXPECT_EQ(mManager->GetTooltipText(12345), "");
+}
+
+TEST_F(ShortcutManagerTest, TooltipsAndMenuKindFallBackToTheApplicationContext) {
+  auto& app = mManager->GetGlobalContext();
+  app.DeclareCommandLocalized("app.save", 1700, CommandKind::Menu, "Save", {}, false);
+  app.SetCommandShortcuts("app.save", {KeySpec(kKeyL, true, false, false)});
+  mPanel->DeclareCommandLocalized("panel.save", 1701, CommandKind::Action, "Save Panel", {}, false);
+  EXPECT_EQ(mManager->GetTooltipAndShortcutText(1700), "Save (Ctrl+L)");
+  EXPECT_EQ(mManager->GetTooltipShortcutText(1701), "");
+  EXPECT_TRUE(mManager->IsMenuCommand(1700));
+  EXPECT_FALSE(mManager->IsMenuCommand(1701)) << "an action";
+  EXPECT_FALSE(mManager->IsMenuCommand(12345));
 }
 
 TEST_F(ShortcutManagerTest, TheAnalyticsScopeCoversThePost) {
