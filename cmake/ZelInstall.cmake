@@ -11,7 +11,10 @@ if(_zel_libraries)
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
   install(DIRECTORY "${PROJECT_SOURCE_DIR}/platform/" "${PROJECT_SOURCE_DIR}/zel"
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
-    FILES_MATCHING PATTERN "*.h" PATTERN "*Impl.h" EXCLUDE)
+    FILES_MATCHING PATTERN "*.h" PATTERN "*Impl.h" EXCLUDE
+    # The shortcut manager's private parts, held by ShortcutManagerImpl.h.
+    PATTERN "ContextRegistry.h" EXCLUDE PATTERN "ShortcutDispatcher.h" EXCLUDE
+    PATTERN "ShortcutSetLibrary.h" EXCLUDE)
   install(DIRECTORY "${ZEL_GENERATED_INCLUDE_DIR}/" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
   install(EXPORT ZELTargets NAMESPACE zel:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/ZEL)
   file(WRITE "${PROJECT_BINARY_DIR}/ZELConfig.cmake.in"

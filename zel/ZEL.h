@@ -6,6 +6,8 @@
 
 #include <zel/Forward.h>
 #include <zel/Localization.h>
+#include <zel/application/Application.h>
+#include <zel/application/MessageBox.h>
 #include <zel/commands/AnalyticsUtils.h>
 #include <zel/commands/Command.h>
 #include <zel/commands/CommandContext.h>
@@ -18,7 +20,6 @@
 #include <zel/commands/ShortcutManager.h>
 #include <zel/commands/ShortcutSetFile.h>
 #include <zel/commands/SyntheticCommand.h>
-#include <zel/views/MessageBox.h>
 #include <zel/appearance/ColorManager.h>
 #include <zel/appearance/ThemeChangedMessage.h>
 #include <zel/appearance/ThemeResources.h>
@@ -31,7 +32,6 @@
 #include <zel/views/SubView.h>
 #include <zel/views/ViewBase.h>
 #include <zel/appearance/Cursor.h>
-#include <zel/views/Application.h>
 #include <zel/views/OverlayView.h>
 #include <zel/views/ScrollBar.h>
 #include <zel/views/ScrollBarMessages.h>

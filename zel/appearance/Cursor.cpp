@@ -1,7 +1,7 @@
 #include <zel/appearance/Cursor.h>
 
 #include <zel/appearance/ThemeResources.h>
-#include <zel/views/Application.h>
+#include <zel/application/Application.h>
 
 #include <krocore/debug/Assert.h>
 

@@ -4,7 +4,7 @@
 #include <zel/commands/CommandInfo.h>
 #include <zel/commands/KeyCommandMap.h>
 
-#include <krocore/utility/ImmutableString.h>
+#include <krocore/Forward.h>
 
 #include <cstdint>
 #include <map>

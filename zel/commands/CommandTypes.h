@@ -27,6 +27,20 @@ inline constexpr int kCommand_SelectAll = 57642;
 inline constexpr int kCommand_Undo = 57643;
 inline constexpr int kCommand_Redo = 57644;
 
+/// The standard file and application commands. The shortcut manager's
+/// pre-dispatch map holds them, so that they work wherever the focus is.
+inline constexpr int kCommand_New = 57600;
+inline constexpr int kCommand_Open = 57601;
+inline constexpr int kCommand_RecentFile1 = 57616; ///< the first of the recently used files
+inline constexpr int kCommand_Exit = 57665;
+
+/// The host's commands that the pre-dispatch map holds as well: two single
+/// commands and a block of ten.
+inline constexpr int kCommand_HostPreDispatchA = 11200;
+inline constexpr int kCommand_HostPreDispatchB = 11905;
+inline constexpr int kCommand_HostPreDispatchRangeFirst = 11920;
+inline constexpr int kCommand_HostPreDispatchRangeLast = 11929;
+
 class Commander;
 using CommanderPtr = krocore::FlexPtr<Commander>;
 using CommanderWeakPtr = krocore::FlexWeakPtr<Commander>;

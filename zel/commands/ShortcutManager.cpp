@@ -1,15 +1,14 @@
+// The front of the shortcut manager: every call goes to the part that does
+// the work (ShortcutManagerImpl.h); only the tooltips are put together here.
 #include <zel/commands/ShortcutManager.h>
 
 #include <zel/Localization.h>
-
-#include <algorithm>
+#include <zel/commands/ShortcutManagerImpl.h>
 
 namespace ZEL {
 namespace {
 
 std::unique_ptr<ShortcutManager> sInstance;
-
-constexpr std::size_t kRecentContextLimit = 64;
 
 } // namespace
 
@@ -19,117 +18,130 @@ void ShortcutManager::Initialize() {
   sInstance.reset(new ShortcutManager());
   sInstance->AddContext(kApplicationContextName, kApplicationContextName);
   sInstance->SetPreDispatchMap();
-  sInstance->RegisterBuiltInPresets();
+  sInstance->mImpl->library.RegisterBuiltInPresets();
 }
 
 void ShortcutManager::Finalize() { sInstance.reset(); }
 
-ShortcutManager::ShortcutManager() = default;
+ShortcutManager::ShortcutManager() : mImpl(std::make_unique<ShortcutManagerImpl>(*this)) {}
 
-void ShortcutManager::SetOverrideMode(std::int32_t mode) noexcept {
-  if (mode == mOverrideMode) return;
-  mOverrideMode = mode;
-  switch (mode) {
-  case 0: mMinimalMap = true, mAltPassesThrough = false; break;
-  case 1: mMinimalMap = false, mAltPassesThrough = false; break;
-  case 3: mMinimalMap = true, mAltPassesThrough = true; break;
-  default: break;
-  }
+ShortcutManager::~ShortcutManager() = default;
+
+// Dispatch.
+
+bool ShortcutManager::DispatchKeyboardEvent(const kroui::ui::KeyboardEvent& event, bool preDispatch) {
+  return mImpl->dispatcher.DispatchKeyboardEvent(event, preDispatch);
 }
+
+KeySpec ShortcutManager::MakeKeySpec(const kroui::ui::KeyboardEvent& event) {
+  return ShortcutDispatcher::MakeKeySpec(event);
+}
+
+bool ShortcutManager::CommandEnabled(const CommanderPtr& target, std::int32_t commandID) {
+  return mImpl->dispatcher.CommandEnabled(target, commandID);
+}
+
+bool ShortcutManager::CheckMinimalShortcut(const kroui::ui::KeyboardEvent& event) {
+  if (!Instance()) Initialize();
+  return sInstance->mImpl->dispatcher.CheckMinimalShortcut(event);
+}
+
+void ShortcutManager::SuspendContextChanges() noexcept { mImpl->dispatcher.SetSuspended(true); }
+void ShortcutManager::ResumeContextChanges() noexcept { mImpl->dispatcher.SetSuspended(false); }
+bool ShortcutManager::IsSuspended() const noexcept { return mImpl->dispatcher.IsSuspended(); }
+
+std::int32_t ShortcutManager::GetOverrideMode() const noexcept { return mImpl->dispatcher.GetOverrideMode(); }
+void ShortcutManager::SetOverrideMode(std::int32_t mode) noexcept { mImpl->dispatcher.SetOverrideMode(mode); }
+bool ShortcutManager::UsesMinimalMap() const noexcept { return mImpl->dispatcher.UsesMinimalMap(); }
+bool ShortcutManager::AltPassesThrough() const noexcept { return mImpl->dispatcher.AltPassesThrough(); }
+
+void ShortcutManager::SetDragCommandContext(const std::string& name) { mImpl->dispatcher.SetDragCommandContext(name); }
+void ShortcutManager::SetDragInProgress(bool inProgress) noexcept { mImpl->dispatcher.SetDragInProgress(inProgress); }
+bool ShortcutManager::IsDragInProgress() const noexcept { return mImpl->dispatcher.IsDragInProgress(); }
+
+// Contexts.
+
+CommandContext& ShortcutManager::GetGlobalContext() const { return mImpl->registry.GetGlobalContext(); }
 
 CommandContext& ShortcutManager::AddContext(const std::string& name, const UTF8String& uiName) {
-  mContexts.push_back(std::make_shared<CommandContext>(name, uiName));
-  mCurrentContextIndex = GetContextIndex(mCurrentContextName);
-  return *mContexts.back();
+  return mImpl->registry.AddContext(name, uiName);
 }
+
+CommandContext& ShortcutManager::GetContext(std::size_t index) const { return mImpl->registry.GetContext(index); }
+
+CommandContext& ShortcutManager::GetContext(const std::string& name) const { return mImpl->registry.GetContext(name); }
 
 std::size_t ShortcutManager::GetContextIndex(const std::string& name) const {
-  for (std::size_t i = 0; i < mContexts.size(); ++i)
-    if (mContexts[i]->GetName() == name) return i;
-  return 0;
+  return mImpl->registry.GetContextIndex(name);
 }
 
-void ShortcutManager::ApplyContext(const std::string& name) {
-  mCurrentContextName = name;
-  mCurrentContextIndex = GetContextIndex(name);
-  std::erase(mRecentContexts, name);
-  mRecentContexts.push_front(name);
-  if (mRecentContexts.size() > kRecentContextLimit) mRecentContexts.pop_back();
+std::size_t ShortcutManager::GetContextCount() const noexcept { return mImpl->registry.GetContextCount(); }
+
+const std::string& ShortcutManager::GetCurrentContextName() const noexcept {
+  return mImpl->registry.GetCurrentContextName();
 }
+
+void ShortcutManager::ApplyContext(const std::string& name) { mImpl->registry.ApplyContext(name); }
 
 std::string ShortcutManager::GetMostRecentMatchingContext(const std::set<std::string>& names) const {
-  for (const std::string& name : mRecentContexts)
-    if (names.contains(name)) return name;
-  return {};
+  return mImpl->registry.GetMostRecentMatchingContext(names);
 }
 
-bool ShortcutManager::IsMenuCommand(std::int32_t commandID) const {
-  const CommandInfo* info = CurrentContext().FindCommand(commandID);
-  if (!info) info = GetGlobalContext().FindCommand(commandID);
-  return info && info->GetCommandKind() == CommandKind::Menu;
-}
+bool ShortcutManager::IsMenuCommand(std::int32_t commandID) const { return mImpl->registry.IsMenuCommand(commandID); }
 
-void ShortcutManager::SetPreDispatchMap() {
-  mPreDispatchMap = {57600, 57601, 57616, 57665, 11200, 11905};
-  for (std::int32_t id = 11920; id <= 11929; ++id) mPreDispatchMap.push_back(id);
-  std::sort(mPreDispatchMap.begin(), mPreDispatchMap.end());
-}
+void ShortcutManager::SetPreDispatchMap() { mImpl->registry.SetPreDispatchMap(); }
 
 void ShortcutManager::AddCommandtoPreDispatchMap(std::int32_t commandID) {
-  auto it = std::lower_bound(mPreDispatchMap.begin(), mPreDispatchMap.end(), commandID);
-  if (it == mPreDispatchMap.end() || *it != commandID) mPreDispatchMap.insert(it, commandID);
+  mImpl->registry.AddCommandToPreDispatchMap(commandID);
 }
 
 bool ShortcutManager::IsInPreDispatchMap(std::int32_t commandID) const {
-  return std::binary_search(mPreDispatchMap.begin(), mPreDispatchMap.end(), commandID);
+  return mImpl->registry.IsInPreDispatchMap(commandID);
 }
 
 void ShortcutManager::RegisterImmutable(std::int32_t commandID, const KeySpec& key) {
-  mImmutables.insert_or_assign(commandID, key);
-  ++mImmutablesGeneration;
+  mImpl->registry.RegisterImmutable(commandID, key);
 }
 
-void ShortcutManager::GetImmutableKeySet(std::set<KeySpec>& keys) const {
-  keys.clear();
-  for (const auto& [id, key] : mImmutables) keys.insert(key);
+const std::map<std::int32_t, KeySpec>& ShortcutManager::GetImmutables() const noexcept {
+  return mImpl->registry.GetImmutables();
 }
+
+std::uint64_t ShortcutManager::GetImmutablesGeneration() const noexcept {
+  return mImpl->registry.GetImmutablesGeneration();
+}
+
+void ShortcutManager::GetImmutableKeySet(std::set<KeySpec>& keys) const { mImpl->registry.GetImmutableKeySet(keys); }
 
 void ShortcutManager::GetImmutableCommandSet(std::set<std::int32_t>& commandIDs) const {
-  commandIDs.clear();
-  for (const auto& [id, key] : mImmutables) commandIDs.insert(id);
+  mImpl->registry.GetImmutableCommandSet(commandIDs);
 }
 
 void ShortcutManager::SetDefaultShortcuts(const std::string& key, std::vector<KeySpec> shortcuts) {
-  mDefaultShortcuts.insert_or_assign(key, std::move(shortcuts));
+  mImpl->registry.SetDefaultShortcuts(key, std::move(shortcuts));
 }
 
 const std::vector<KeySpec>* ShortcutManager::FindDefaultShortcuts(const std::string& key) const {
-  auto it = mDefaultShortcuts.find(key);
-  return it == mDefaultShortcuts.end() ? nullptr : &it->second;
+  return mImpl->registry.FindDefaultShortcuts(key);
 }
 
 void ShortcutManager::AddCommandToGroup(std::int32_t commandID, std::int32_t group) {
-  mCommandGroups.insert_or_assign(commandID, group);
+  mImpl->registry.AddCommandToGroup(commandID, group);
 }
 
 bool ShortcutManager::CommandIDContextMatch(std::int32_t first, std::int32_t second) const {
-  auto a = mCommandGroups.find(first);
-  auto b = mCommandGroups.find(second);
-  return a != mCommandGroups.end() && b != mCommandGroups.end() && a->second == b->second;
+  return mImpl->registry.CommandIDContextMatch(first, second);
 }
 
-const CommandInfo* ShortcutManager::FindCommandForTooltip(std::int32_t commandID) const {
-  const CommandInfo* info = CurrentContext().FindCommand(commandID);
-  return info ? info : GetGlobalContext().FindCommand(commandID);
-}
+// Tooltips.
 
 UTF8String ShortcutManager::GetTooltipText(std::int32_t commandID) const {
-  const CommandInfo* info = FindCommandForTooltip(commandID);
+  const CommandInfo* info = mImpl->registry.FindCommandInForce(commandID);
   return info ? info->GetUIString() : UTF8String();
 }
 
 UTF8String ShortcutManager::GetTooltipShortcutText(std::int32_t commandID) const {
-  const CommandInfo* info = FindCommandForTooltip(commandID);
+  const CommandInfo* info = mImpl->registry.FindCommandInForce(commandID);
   return info && info->HasShortcuts() ? info->GetMenuShortcut().GetString() : UTF8String();
 }
 
@@ -139,5 +151,32 @@ UTF8String ShortcutManager::GetTooltipAndShortcutText(std::int32_t commandID) co
   if (shortcut.empty()) return text;
   return ReplacePlaceholders(Localize("$$$/Vantor/Libraries/ZEL/TooltipTemplate=@0 (@1)"), {text, shortcut});
 }
+
+// Shortcut sets.
+
+void ShortcutManager::SetShortcutSetFolders(std::filesystem::path userFolder, std::filesystem::path presetFolder) {
+  mImpl->library.SetShortcutSetFolders(std::move(userFolder), std::move(presetFolder));
+}
+
+void ShortcutManager::RegisterPreset(const std::string& name, const UTF8String& displayName) {
+  mImpl->library.RegisterPreset(name, displayName);
+}
+
+const std::vector<std::pair<std::string, UTF8String>>& ShortcutManager::GetPresets() const noexcept {
+  return mImpl->library.GetPresets();
+}
+
+bool ShortcutManager::IsPreset(const std::filesystem::path& path) const { return mImpl->library.IsPreset(path); }
+bool ShortcutManager::SaveSet(const std::filesystem::path& path) { return mImpl->library.SaveSet(path); }
+bool ShortcutManager::ReadSet(const std::filesystem::path& path) { return mImpl->library.ReadSet(path); }
+
+std::filesystem::path ShortcutManager::ResolveSet(const std::string& name) const {
+  return mImpl->library.ResolveSet(name);
+}
+
+bool ShortcutManager::LoadSet(const std::string& name) { return mImpl->library.LoadSet(name); }
+bool ShortcutManager::LoadInitialKeyset() { return mImpl->library.LoadInitialKeyset(); }
+bool ShortcutManager::RefreshSet() { return mImpl->library.RefreshSet(); }
+const std::string& ShortcutManager::GetCurrentSetName() const noexcept { return mImpl->library.GetCurrentSetName(); }
 
 } // namespace ZEL

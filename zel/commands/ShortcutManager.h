@@ -4,18 +4,20 @@
 #include <zel/commands/CommandContext.h>
 #include <zel/commands/KeySpec.h>
 
-#include <kroui/ui/KeyboardEvent.h>
+#include <kroui/Forward.h>
 
 #include <cstdint>
-#include <deque>
 #include <filesystem>
 #include <map>
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ZEL {
+
+struct ShortcutManagerImpl;
 
 /// Turns keyboard events into commands for the target commander. The
 /// window's key handling calls it twice per key:
@@ -26,7 +28,15 @@ namespace ZEL {
 ///             -> Commander::PostCommand up the chain
 ///
 /// It owns the command contexts (the first is the application's) and knows
-/// which one is current. UI thread only.
+/// which one is current. This class is the front; three private parts do the
+/// work:
+///
+///   ShortcutManager
+///     ContextRegistry      contexts, the current and recent ones, groups, immutables, pre-dispatch map
+///     ShortcutDispatcher   key event -> command, reading the registry
+///     ShortcutSetLibrary   set files, presets, the set in use, and what the user is told
+///
+/// UI thread only.
 class ZEL_API ShortcutManager {
 public:
   /// The singleton, or null before Initialize.
@@ -34,33 +44,41 @@ public:
   static void Initialize();
   static void Finalize();
 
+  ~ShortcutManager();
+  ShortcutManager(const ShortcutManager&) = delete;
+  ShortcutManager& operator=(const ShortcutManager&) = delete;
+
   static constexpr const char* kApplicationContextName = "Application";
 
   // Dispatch.
   bool DispatchKeyboardEvent(const kroui::ui::KeyboardEvent& event, bool preDispatch);
   static KeySpec MakeKeySpec(const kroui::ui::KeyboardEvent& event);
   bool CommandEnabled(const CommanderPtr& target, std::int32_t commandID);
-  /// Tries an event as a minimal shortcut; leaves the override mode at 1.
+  /// Tries an event as a minimal shortcut; leaves the override mode at kOverrideMode_Everything.
   static bool CheckMinimalShortcut(const kroui::ui::KeyboardEvent& event);
-  void SuspendContextChanges() noexcept { mSuspended = true; }
-  void ResumeContextChanges() noexcept { mSuspended = false; }
-  bool IsSuspended() const noexcept { return mSuspended; }
+  void SuspendContextChanges() noexcept;
+  void ResumeContextChanges() noexcept;
+  bool IsSuspended() const noexcept;
 
-  /// 0: minimal map; 1: everything; 3: minimal map, and Alt keys go to the system.
-  std::int32_t GetOverrideMode() const noexcept { return mOverrideMode; }
+  /// The override modes: which key map dispatch reads, and where Alt keys go.
+  static constexpr std::int32_t kOverrideMode_MinimalMap = 0;            ///< only minimal shortcuts
+  static constexpr std::int32_t kOverrideMode_Everything = 1;            ///< every shortcut (the default)
+  static constexpr std::int32_t kOverrideMode_MinimalMapAltToSystem = 3; ///< minimal; Alt keys go to the system
+  std::int32_t GetOverrideMode() const noexcept;
+  /// Another value is kept as the mode and leaves the flags as they were.
   void SetOverrideMode(std::int32_t mode) noexcept;
-  bool UsesMinimalMap() const noexcept { return mMinimalMap; }
-  bool AltPassesThrough() const noexcept { return mAltPassesThrough; }
+  bool UsesMinimalMap() const noexcept;
+  bool AltPassesThrough() const noexcept;
 
   // Contexts.
-  CommandContext& GetGlobalContext() const { return *mContexts.front(); }
+  CommandContext& GetGlobalContext() const;
   CommandContext& AddContext(const std::string& name, const UTF8String& uiName);
-  CommandContext& GetContext(std::size_t index) const { return *mContexts.at(index); }
+  CommandContext& GetContext(std::size_t index) const;
   /// An unknown name gives the application context, as index 0 does.
-  CommandContext& GetContext(const std::string& name) const { return *mContexts[GetContextIndex(name)]; }
+  CommandContext& GetContext(const std::string& name) const;
   std::size_t GetContextIndex(const std::string& name) const;
-  std::size_t GetContextCount() const noexcept { return mContexts.size(); }
-  const std::string& GetCurrentContextName() const noexcept { return mCurrentContextName; }
+  std::size_t GetContextCount() const noexcept;
+  const std::string& GetCurrentContextName() const noexcept;
   /// Makes a context current (the focused panel's) and records it as used.
   void ApplyContext(const std::string& name);
   /// The most recently used of the given context names; empty when none was used.
@@ -68,15 +86,17 @@ public:
   /// A command declared menu-kind in the current or the application context.
   bool IsMenuCommand(std::int32_t commandID) const;
 
-  // The pre-dispatch map: commands that go before the focused control.
+  // The pre-dispatch map: commands that go before the focused control. It
+  // starts with the standard file and application commands and the host's
+  // pre-dispatch commands (CommandTypes.h).
   void SetPreDispatchMap();
   void AddCommandtoPreDispatchMap(std::int32_t commandID);
   bool IsInPreDispatchMap(std::int32_t commandID) const;
 
   // Immutable shortcuts: bound in every context, never changed by the user.
   void RegisterImmutable(std::int32_t commandID, const KeySpec& key);
-  const std::map<std::int32_t, KeySpec>& GetImmutables() const noexcept { return mImmutables; }
-  std::uint64_t GetImmutablesGeneration() const noexcept { return mImmutablesGeneration; }
+  const std::map<std::int32_t, KeySpec>& GetImmutables() const noexcept;
+  std::uint64_t GetImmutablesGeneration() const noexcept;
   void GetImmutableKeySet(std::set<KeySpec>& keys) const;
   void GetImmutableCommandSet(std::set<std::int32_t>& commandIDs) const;
 
@@ -89,9 +109,9 @@ public:
   bool CommandIDContextMatch(std::int32_t first, std::int32_t second) const;
 
   // Keys during a drag go to the drag context's drag-enabled commands.
-  void SetDragCommandContext(const std::string& name) { mDragContextName = name; }
-  void SetDragInProgress(bool inProgress) noexcept { mDragInProgress = inProgress; }
-  bool IsDragInProgress() const noexcept { return mDragInProgress; }
+  void SetDragCommandContext(const std::string& name);
+  void SetDragInProgress(bool inProgress) noexcept;
+  bool IsDragInProgress() const noexcept;
 
   // Tooltips of controls that fire commands.
   UTF8String GetTooltipText(std::int32_t commandID) const;
@@ -105,7 +125,7 @@ public:
   void SetShortcutSetFolders(std::filesystem::path userFolder, std::filesystem::path presetFolder);
   void RegisterPreset(const std::string& name, const UTF8String& displayName);
   /// Preset names with their display names, in registration order.
-  const std::vector<std::pair<std::string, UTF8String>>& GetPresets() const noexcept { return mPresets; }
+  const std::vector<std::pair<std::string, UTF8String>>& GetPresets() const noexcept;
   bool IsPreset(const std::filesystem::path& path) const;
   /// Writes every context's shortcuts to a set file; a preset's path is refused.
   bool SaveSet(const std::filesystem::path& path);
@@ -120,38 +140,12 @@ public:
   bool LoadInitialKeyset();
   /// Reads the set in use again.
   bool RefreshSet();
-  const std::string& GetCurrentSetName() const noexcept { return mCurrentSetName; }
+  const std::string& GetCurrentSetName() const noexcept;
 
 private:
   ShortcutManager();
-  void RegisterBuiltInPresets();
 
-  bool TranslateKeyboardEvent(const kroui::ui::KeyboardEvent& event, bool preDispatch);
-  bool TranslateKeyboardEvent(const KeySpec& key, bool keyDown, bool preDispatch);
-  bool KeyRepeatsTranslateKeyboardEvent(const kroui::ui::KeyboardEvent& event);
-  bool KeyUsesUpAndDownState(const kroui::ui::KeyboardEvent& event);
-  bool DragTranslateKeyboardEvent(const kroui::ui::KeyboardEvent& event);
-  CommandContext& CurrentContext() const { return *mContexts[mCurrentContextIndex]; }
-  const CommandInfo* FindCommandForTooltip(std::int32_t commandID) const;
-
-  std::int32_t mOverrideMode = 1;
-  bool mMinimalMap = false;
-  bool mAltPassesThrough = false;
-  bool mSuspended = false;
-  std::vector<std::shared_ptr<CommandContext>> mContexts;
-  std::string mCurrentContextName;
-  std::size_t mCurrentContextIndex = 0; // GetContextIndex(mCurrentContextName), kept in step
-  std::deque<std::string> mRecentContexts;
-  std::vector<std::int32_t> mPreDispatchMap; // sorted
-  std::map<std::int32_t, KeySpec> mImmutables;
-  std::uint64_t mImmutablesGeneration = 1;
-  std::map<std::string, std::vector<KeySpec>, std::less<>> mDefaultShortcuts;
-  std::map<std::int32_t, std::int32_t> mCommandGroups;
-  std::string mDragContextName;
-  bool mDragInProgress = false;
-  std::filesystem::path mUserSetFolder, mPresetSetFolder;
-  std::vector<std::pair<std::string, UTF8String>> mPresets;
-  std::string mCurrentSetName;
+  std::unique_ptr<ShortcutManagerImpl> mImpl;
 };
 
 } // namespace ZEL

@@ -1,5 +1,5 @@
 #include <zel/appearance/Cursor.h>
-#include <zel/views/Application.h>
+#include <zel/application/Application.h>
 
 #include <backends/headless/HeadlessBackend.h>
 #include <krocore/debug/Assert.h>

@@ -113,14 +113,14 @@ TEST_F(ShortcutManagerTest, AFocusedControlThatTakesTheKeyStopsTheShortcut) {
 }
 
 TEST_F(ShortcutManagerTest, PreDispatchCommandsGoBeforeTheControl) {
-  Declare("app.undo", 57601, KeySpec(kKeyK, true, false, false));
+  Declare("app.open", ZEL::kCommand_Open, KeySpec(kKeyK, true, false, false));
   Declare("panel.play", 600, KeySpec(kKeySpace, false, false, false));
   mPanel->DeclarePreDispatchCommand(600);
-  mApp->Handle(57601);
+  mApp->Handle(ZEL::kCommand_Open);
   mApp->Handle(600);
   bool controlSawKey = false;
   auto control = [&] { return controlSawKey = true, false; };
-  EXPECT_TRUE(DeliverKey(*mManager, Down(kKeyK, kCtrl), control)) << "57601 stands in the pre-dispatch map";
+  EXPECT_TRUE(DeliverKey(*mManager, Down(kKeyK, kCtrl), control)) << "Open stands in the pre-dispatch map";
   EXPECT_TRUE(DeliverKey(*mManager, Down(kKeySpace), control)) << "declared pre-dispatch by the context";
   EXPECT_FALSE(controlSawKey);
 }
@@ -155,10 +155,10 @@ TEST_F(ShortcutManagerTest, AltKeysPassThroughInModeThree) {
   mPanel->DeclareMinimalCommand(900);
   mField->Handle(900);
   const auto ctrlAlt = ModifierKeys::FromValue(0x14);
-  mManager->SetOverrideMode(3);
+  mManager->SetOverrideMode(ShortcutManager::kOverrideMode_MinimalMapAltToSystem);
   EXPECT_TRUE(mManager->UsesMinimalMap());
   EXPECT_FALSE(mManager->DispatchKeyboardEvent(Down(kKeyK, ctrlAlt), false));
-  mManager->SetOverrideMode(1);
+  mManager->SetOverrideMode(ShortcutManager::kOverrideMode_Everything);
   EXPECT_TRUE(mManager->DispatchKeyboardEvent(Down(kKeyK, ctrlAlt), false));
 }
 
@@ -167,12 +167,35 @@ TEST_F(ShortcutManagerTest, OverrideModesSetTheirFlags) {
     int mode;
     bool minimal, alt;
   };
-  for (const Row& row : {Row{0, true, false}, Row{1, false, false}, Row{3, true, true}, Row{7, true, true},
-                         Row{1, false, false}, Row{2, false, false}}) {
+  constexpr int kMinimal = ShortcutManager::kOverrideMode_MinimalMap;
+  constexpr int kEverything = ShortcutManager::kOverrideMode_Everything;
+  constexpr int kAltToSystem = ShortcutManager::kOverrideMode_MinimalMapAltToSystem;
+  constexpr int kUnknownMode = 7, kOtherUnknownMode = 2; // kept, and the flags stay as they were
+  for (const Row& row : {Row{kMinimal, true, false}, Row{kEverything, false, false}, Row{kAltToSystem, true, true},
+                         Row{kUnknownMode, true, true}, Row{kEverything, false, false},
+                         Row{kOtherUnknownMode, false, false}}) {
     mManager->SetOverrideMode(row.mode);
     EXPECT_EQ(mManager->UsesMinimalMap(), row.minimal) << "mode " << row.mode;
     EXPECT_EQ(mManager->AltPassesThrough(), row.alt) << "mode " << row.mode;
   }
+}
+
+TEST_F(ShortcutManagerTest, ThePreDispatchMapStartsWithTheFileApplicationAndHostCommands) {
+  for (int id : {ZEL::kCommand_New, ZEL::kCommand_Open, ZEL::kCommand_RecentFile1, ZEL::kCommand_Exit,
+                 ZEL::kCommand_HostPreDispatchA, ZEL::kCommand_HostPreDispatchB})
+    EXPECT_TRUE(mManager->IsInPreDispatchMap(id)) << id;
+  for (int id = ZEL::kCommand_HostPreDispatchRangeFirst; id <= ZEL::kCommand_HostPreDispatchRangeLast; ++id)
+    EXPECT_TRUE(mManager->IsInPreDispatchMap(id)) << id;
+  EXPECT_FALSE(mManager->IsInPreDispatchMap(ZEL::kCommand_HostPreDispatchRangeFirst - 1));
+  EXPECT_FALSE(mManager->IsInPreDispatchMap(ZEL::kCommand_HostPreDispatchRangeLast + 1));
+  EXPECT_FALSE(mManager->IsInPreDispatchMap(ZEL::kCommand_Copy)) << "editing commands wait for the control";
+
+  mManager->AddCommandtoPreDispatchMap(ZEL::kCommand_Copy);
+  mManager->AddCommandtoPreDispatchMap(ZEL::kCommand_Copy);
+  EXPECT_TRUE(mManager->IsInPreDispatchMap(ZEL::kCommand_Copy));
+  mManager->SetPreDispatchMap();
+  EXPECT_FALSE(mManager->IsInPreDispatchMap(ZEL::kCommand_Copy)) << "back to the built-in commands";
+  EXPECT_TRUE(mManager->IsInPreDispatchMap(ZEL::kCommand_Exit));
 }
 
 TEST_F(ShortcutManagerTest, BlockedDisabledAndUntargetedCommandsAreNotConsumed) {
@@ -231,11 +254,59 @@ TEST_F(ShortcutManagerTest, MinimalCheckLeavesModeOne) {
   Declare("full", 1401, KeySpec(kKeyL, false, false, false));
   mField->Handle(1400);
   mField->Handle(1401);
-  mManager->SetOverrideMode(3);
+  mManager->SetOverrideMode(ShortcutManager::kOverrideMode_MinimalMapAltToSystem);
   EXPECT_TRUE(ShortcutManager::CheckMinimalShortcut(Down(kKeyK)));
-  EXPECT_EQ(mManager->GetOverrideMode(), 1);
+  EXPECT_EQ(mManager->GetOverrideMode(), ShortcutManager::kOverrideMode_Everything);
   EXPECT_FALSE(ShortcutManager::CheckMinimalShortcut(Down(kKeyL))) << "not in the minimal map";
-  EXPECT_EQ(mManager->GetOverrideMode(), 1);
+  EXPECT_EQ(mManager->GetOverrideMode(), ShortcutManager::kOverrideMode_Everything);
+}
+
+TEST_F(ShortcutManagerTest, MinimalCheckBringsUpAManagerWhenThereIsNone) {
+  ShortcutManager::Finalize();
+  ASSERT_EQ(ShortcutManager::Instance(), nullptr);
+  EXPECT_FALSE(ShortcutManager::CheckMinimalShortcut(Down(kKeyK)));
+  ASSERT_NE(ShortcutManager::Instance(), nullptr);
+  EXPECT_EQ(ShortcutManager::Instance()->GetContextCount(), 1u) << "the application context";
+  EXPECT_TRUE(ShortcutManager::Instance()->IsInPreDispatchMap(ZEL::kCommand_Exit));
+  EXPECT_EQ(ShortcutManager::Instance()->GetOverrideMode(), ShortcutManager::kOverrideMode_Everything);
+}
+
+TEST_F(ShortcutManagerTest, KeysDuringADragGoToTheDragContextsDragEnabledCommands) {
+  auto& bin = mManager->AddContext("Bin", "Bin");
+  bin.DeclareCommand("bin.copyOnDrop", 1600, CommandKind::Action, "Copy on drop", {}, false);
+  bin.SetCommandShortcuts("bin.copyOnDrop", {KeySpec(kKeyK, false, false, false)});
+  bin.DeclareDragEnabledCommand(1600);
+  bin.DeclareCommand("bin.rename", 1601, CommandKind::Action, "Rename", {}, false);
+  bin.SetCommandShortcuts("bin.rename", {KeySpec(kKeyL, false, false, false)});
+  mField->Handle(1600);
+  mField->Handle(1601);
+  mManager->SetDragCommandContext("Bin");
+
+  EXPECT_FALSE(mManager->DispatchKeyboardEvent(Down(kKeyK), false)) << "no drag: Timeline has no K";
+  mManager->SetDragInProgress(true);
+  EXPECT_TRUE(mManager->IsDragInProgress());
+  EXPECT_TRUE(mManager->DispatchKeyboardEvent(Down(kKeyK), true)) << "even in the pre-dispatch pass";
+  EXPECT_TRUE(mManager->DispatchKeyboardEvent(Up(kKeyK), true));
+  EXPECT_FALSE(mManager->DispatchKeyboardEvent(Down(kKeyL), false)) << "not drag-enabled";
+  ASSERT_EQ(mField->Obeyed().size(), 2u);
+  EXPECT_EQ(mField->Obeyed()[0].GetPhase(), CommandPhase::Engaged);
+  EXPECT_EQ(mField->Obeyed()[1].GetPhase(), CommandPhase::Disengaged);
+
+  mManager->SetDragInProgress(false);
+  EXPECT_FALSE(mManager->DispatchKeyboardEvent(Down(kKeyK), false));
+  EXPECT_EQ(mField->Obeyed().size(), 2u);
+}
+
+TEST_F(ShortcutManagerTest, SuspensionAndTheCurrentContextAreReported) {
+  EXPECT_FALSE(mManager->IsSuspended());
+  mManager->SuspendContextChanges();
+  EXPECT_TRUE(mManager->IsSuspended());
+  mManager->ResumeContextChanges();
+  EXPECT_FALSE(mManager->IsSuspended());
+  EXPECT_EQ(mManager->GetCurrentContextName(), "Timeline");
+  EXPECT_EQ(&mManager->GetContext("Timeline"), mPanel);
+  EXPECT_EQ(&mManager->GetContext("NoSuchPanel"), &mManager->GetGlobalContext());
+  EXPECT_EQ(&mManager->GetContext(1), mPanel);
 }
 
 TEST_F(ShortcutManagerTest, RecentContextsGroupsAndImmutableSets) {
@@ -272,6 +343,18 @@ TEST_F(ShortcutManagerTest, TooltipsJoinTextAndShortcut) {
   mPanel->SetCommandShortcuts("clip.split", {KeySpec(kKeyK, true, false, false)});
   EXPECT_EQ(mManager->GetTooltipAndShortcutText(500), "Split Clip (Ctrl+K)");
   EXPECT_EQ(mManager->GetTooltipText(12345), "");
+}
+
+TEST_F(ShortcutManagerTest, TooltipsAndMenuKindFallBackToTheApplicationContext) {
+  auto& app = mManager->GetGlobalContext();
+  app.DeclareCommandLocalized("app.save", 1700, CommandKind::Menu, "Save", {}, false);
+  app.SetCommandShortcuts("app.save", {KeySpec(kKeyL, true, false, false)});
+  mPanel->DeclareCommandLocalized("panel.save", 1701, CommandKind::Action, "Save Panel", {}, false);
+  EXPECT_EQ(mManager->GetTooltipAndShortcutText(1700), "Save (Ctrl+L)");
+  EXPECT_EQ(mManager->GetTooltipShortcutText(1701), "");
+  EXPECT_TRUE(mManager->IsMenuCommand(1700));
+  EXPECT_FALSE(mManager->IsMenuCommand(1701)) << "an action";
+  EXPECT_FALSE(mManager->IsMenuCommand(12345));
 }
 
 TEST_F(ShortcutManagerTest, TheAnalyticsScopeCoversThePost) {

@@ -208,6 +208,47 @@ TEST_F(ShortcutSetFileTest, PresetsAreNeverOverwritten) {
   EXPECT_EQ(ReadText(preset), "preset bytes");
 }
 
+TEST_F(ShortcutSetFileTest, ASetNameResolvesInTheUserFolderBeforeThePresets) {
+  std::ofstream(mFolder / "presets" / "Default.kys") << "preset";
+  std::ofstream(mFolder / "presets" / "Shared.kys") << "preset";
+  std::ofstream(mFolder / "user" / "Shared.kys") << "user";
+  std::filesystem::create_directories(mFolder / "user" / "Folder.kys");
+  EXPECT_EQ(mManager->ResolveSet("Default"), mFolder / "presets" / "Default.kys");
+  EXPECT_EQ(mManager->ResolveSet("Shared"), mFolder / "user" / "Shared.kys");
+  EXPECT_EQ(mManager->ResolveSet("Missing"), std::filesystem::path());
+  EXPECT_EQ(mManager->ResolveSet("Folder"), std::filesystem::path()) << "a folder is no set";
+  EXPECT_FALSE(mManager->LoadSet("Missing"));
+  EXPECT_EQ(mManager->GetCurrentSetName(), "");
+}
+
+TEST_F(ShortcutSetFileTest, PresetsKeepTheirOrderAndTakeANewDisplayName) {
+  auto names = [&] {
+    std::vector<std::string> all;
+    for (const auto& [name, display] : mManager->GetPresets()) all.push_back(name);
+    return all;
+  };
+  EXPECT_EQ(names(), (std::vector<std::string>{ShortcutManager::kDefaultPresetName, "Classic", "LayoutA", "LayoutB"}));
+  mManager->RegisterPreset("Classic", "Classic (renamed)");
+  mManager->RegisterPreset("Studio", "Studio");
+  EXPECT_EQ(names(), (std::vector<std::string>{"Default", "Classic", "LayoutA", "LayoutB", "Studio"}));
+  EXPECT_EQ(mManager->GetPresets()[1].second, "Classic (renamed)");
+  EXPECT_TRUE(mManager->IsPreset(mFolder / "user" / "Studio.kys"));
+}
+
+TEST_F(ShortcutSetFileTest, RefreshReadsTheSetInUseAgain) {
+  EXPECT_FALSE(mManager->RefreshSet()) << "no set in use yet";
+  DeclareLargeSet();
+  const auto before = Snapshot();
+  ASSERT_TRUE(mManager->SaveSet(mFolder / "user" / "Mine.kys"));
+  ASSERT_TRUE(mManager->LoadSet("Mine"));
+  mManager->GetContext(1).ClearShortcuts();
+  ASSERT_NE(Snapshot(), before);
+  EXPECT_TRUE(mManager->RefreshSet());
+  EXPECT_EQ(Snapshot(), before);
+  EXPECT_EQ(mManager->GetCurrentSetName(), "Mine");
+  EXPECT_TRUE(mHeadless->GetShownMessageBoxes().empty());
+}
+
 #if defined(__linux__)
 // Makes a folder immutable, which even the superuser cannot write into.
 class ImmutableFolder {

@@ -1,10 +1,10 @@
-// The shortcut manager's sets: which file holds which set, saving, and
-// reading a set into force without ever losing the shortcuts in force.
-#include <zel/commands/ShortcutManager.h>
+#include <zel/commands/ShortcutSetLibrary.h>
 
 #include <zel/Localization.h>
+#include <zel/application/MessageBox.h>
+#include <zel/commands/CommandContext.h>
+#include <zel/commands/ShortcutManager.h>
 #include <zel/commands/ShortcutSetFile.h>
-#include <zel/views/MessageBox.h>
 
 #include <krocore/config/TopLevel.h>
 #include <krocore/settings/Preferences.h>
@@ -51,39 +51,39 @@ void ReportSkipped(std::size_t skipped, const std::string& fileName) {
 
 } // namespace
 
-void ShortcutManager::RegisterBuiltInPresets() {
-  RegisterPreset(kDefaultPresetName, Localize("$$$/Vantor/Libraries/ZEL/DefaultKeyset=Default"));
+void ShortcutSetLibrary::RegisterBuiltInPresets() {
+  RegisterPreset(ShortcutManager::kDefaultPresetName, Localize("$$$/Vantor/Libraries/ZEL/DefaultKeyset=Default"));
   RegisterPreset("Classic", Localize("$$$/Vantor/Libraries/ZEL/ClassicKeyset=Classic (earlier release)"));
   RegisterPreset("LayoutA", Localize("$$$/Vantor/Libraries/ZEL/LayoutAKeyset=Trim-centred layout"));
   RegisterPreset("LayoutB", Localize("$$$/Vantor/Libraries/ZEL/LayoutBKeyset=Single-key layout"));
 }
 
-void ShortcutManager::SetShortcutSetFolders(std::filesystem::path userFolder, std::filesystem::path presetFolder) {
+void ShortcutSetLibrary::SetShortcutSetFolders(std::filesystem::path userFolder, std::filesystem::path presetFolder) {
   mUserSetFolder = std::move(userFolder);
   mPresetSetFolder = std::move(presetFolder);
 }
 
-void ShortcutManager::RegisterPreset(const std::string& name, const UTF8String& displayName) {
+void ShortcutSetLibrary::RegisterPreset(const std::string& name, const UTF8String& displayName) {
   auto it = std::find_if(mPresets.begin(), mPresets.end(), [&](const auto& p) { return p.first == name; });
   if (it != mPresets.end()) it->second = displayName;
   else mPresets.emplace_back(name, displayName);
 }
 
-bool ShortcutManager::IsPreset(const std::filesystem::path& path) const {
+bool ShortcutSetLibrary::IsPreset(const std::filesystem::path& path) const {
   if (!mPresetSetFolder.empty() && path.parent_path().lexically_normal() == mPresetSetFolder.lexically_normal())
     return true;
   const std::string stem = path.stem().string();
   return std::any_of(mPresets.begin(), mPresets.end(), [&](const auto& p) { return p.first == stem; });
 }
 
-bool ShortcutManager::SaveSet(const std::filesystem::path& path) {
+bool ShortcutSetLibrary::SaveSet(const std::filesystem::path& path) const {
   if (IsPreset(path)) return false;
-  return ShortcutSetFile::Write(*this, path);
+  return ShortcutSetFile::Write(mManager, path);
 }
 
-bool ShortcutManager::ReadSet(const std::filesystem::path& path) {
+bool ShortcutSetLibrary::ReadSet(const std::filesystem::path& path) {
   const std::string fileName = path.filename().string();
-  ShortcutSetFile::ReadSet set = ShortcutSetFile::Read(*this, path);
+  ShortcutSetFile::ReadSet set = ShortcutSetFile::Read(mManager, path);
   if (set.failure != ShortcutSetFile::Failure::None) {
     ReportFailure(set.failure, fileName);
     return false;
@@ -93,7 +93,7 @@ bool ShortcutManager::ReadSet(const std::filesystem::path& path) {
   return true;
 }
 
-std::filesystem::path ShortcutManager::ResolveSet(const std::string& name) const {
+std::filesystem::path ShortcutSetLibrary::ResolveSet(const std::string& name) const {
   for (const auto& folder : {mUserSetFolder, mPresetSetFolder}) {
     if (folder.empty()) continue;
     std::filesystem::path path = folder / (name + kExtension);
@@ -103,19 +103,20 @@ std::filesystem::path ShortcutManager::ResolveSet(const std::string& name) const
   return {};
 }
 
-bool ShortcutManager::LoadSet(const std::string& name) {
+bool ShortcutSetLibrary::LoadSet(const std::string& name) {
   const std::filesystem::path path = ResolveSet(name);
   if (path.empty() || !ReadSet(path)) return false;
   mCurrentSetName = name;
-  krocore::settings::Preferences::Instance().Set(kPreferenceShortcutsFilename, name);
+  krocore::settings::Preferences::Instance().Set(ShortcutManager::kPreferenceShortcutsFilename, name);
   return true;
 }
 
-bool ShortcutManager::LoadInitialKeyset() {
-  const std::string name = krocore::settings::Preferences::Instance().GetString(kPreferenceShortcutsFilename, "");
+bool ShortcutSetLibrary::LoadInitialKeyset() {
+  const std::string name =
+      krocore::settings::Preferences::Instance().GetString(ShortcutManager::kPreferenceShortcutsFilename, "");
   return !name.empty() && LoadSet(name);
 }
 
-bool ShortcutManager::RefreshSet() { return !mCurrentSetName.empty() && LoadSet(mCurrentSetName); }
+bool ShortcutSetLibrary::RefreshSet() { return !mCurrentSetName.empty() && LoadSet(mCurrentSetName); }
 
 } // namespace ZEL

@@ -1,4 +1,4 @@
-#include <zel/views/Application.h>
+#include <zel/application/Application.h>
 
 #include <zel/appearance/Cursor.h>
 #include <zel/appearance/ThemeResources.h>

@@ -1,4 +1,4 @@
-#include <zel/views/MessageBox.h>
+#include <zel/application/MessageBox.h>
 
 #include <krocore/config/TopLevel.h>
 #include <krocore/string/UTFConversion.h>
