@@ -17,8 +17,10 @@ class ShortcutManager;
 class ShortcutSetFile;
 class SyntheticCommand;
 
-// Views.
+// The application.
 class Application;
+
+// Views.
 class BackgroundView;
 class ControlView;
 class DC;
