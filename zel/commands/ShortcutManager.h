@@ -4,7 +4,7 @@
 #include <zel/commands/CommandContext.h>
 #include <zel/commands/KeySpec.h>
 
-#include <kroui/ui/KeyboardEvent.h>
+#include <kroui/base/KeyboardEvent.h>
 
 #include <cstdint>
 #include <deque>

@@ -5,7 +5,7 @@
 #include <zel/views/PlatformViewImpl.h>
 
 #include <krocore/debug/Assert.h>
-#include <kroui/ui/DataObject.h>
+#include <kroui/base/DataObject.h>
 #include <kroui/ui/UI_Container.h>
 
 #include <algorithm>

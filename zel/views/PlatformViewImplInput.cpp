@@ -7,7 +7,7 @@
 #include <zel/views/PointerRoutingImpl.h>
 #include <zel/views/ViewSupport.h>
 
-#include <kroui/ui/DataObject.h>
+#include <kroui/base/DataObject.h>
 
 #include <utility>
 

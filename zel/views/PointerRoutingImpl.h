@@ -6,7 +6,7 @@
 
 #include <zel/views/ViewSupport.h>
 
-#include <kroui/ui/PointerEvent.h>
+#include <kroui/base/PointerEvent.h>
 
 #include <memory>
 #include <utility>

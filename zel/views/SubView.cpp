@@ -5,7 +5,7 @@
 #include <zel/views/SubViewImpl.h>
 #include <zel/views/ViewSupport.h>
 
-#include <kroui/ui/DataObject.h>
+#include <kroui/base/DataObject.h>
 #include <kroui/ui/UI_Container.h>
 
 namespace ZEL {

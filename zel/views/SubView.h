@@ -6,8 +6,8 @@
 #include <zel/views/DC.h>
 #include <zel/views/ViewBase.h>
 
+#include <kroui/base/PointerEvent.h>
 #include <kroui/drawbot/DrawTypes.h>
-#include <kroui/ui/PointerEvent.h>
 #include <kroui/ui/RefCountedWeakPtr.h>
 
 #include <memory>

@@ -10,7 +10,7 @@
 #include <zel/views/PointerRoutingImpl.h>
 #include <zel/views/ViewSupport.h>
 
-#include <kroui/ui/KeyboardEvent.h>
+#include <kroui/base/KeyboardEvent.h>
 
 namespace ZEL {
 namespace {

@@ -5,8 +5,8 @@
 #include <zel/commands/KeySpec.h>
 
 #include <krocore/debug/Assert.h>
+#include <kroui/base/ModifierKeys.h>
 #include <kroui/skins/SkinManager.h>
-#include <kroui/ui/ModifierKeys.h>
 
 namespace ZEL::detail {
 

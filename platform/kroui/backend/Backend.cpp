@@ -1,7 +1,6 @@
 #include <kroui/backend/Backend.h>
 
-#include <kroui/ui/EventLoop.h>
-#include <kroui/ui/OS_Event.h>
+#include <kroui/base/OS_Event.h>
 
 #include <backends/headless/HeadlessBackend.h>
 
@@ -18,6 +17,7 @@ std::unique_ptr<Backend>& CurrentBackend() {
 }
 
 std::uint64_t sGeneration = 0;
+BackendReplacingHook sReplacingHook = nullptr;
 
 } // namespace
 
@@ -95,9 +95,11 @@ Backend& GetBackend() {
 
 void SetBackend(std::unique_ptr<Backend> backend) {
   ++sGeneration;
-  ui::EventLoop::Instance().Reset();
+  if (sReplacingHook) sReplacingHook();
   CurrentBackend() = std::move(backend);
 }
+
+void SetBackendReplacingHook(BackendReplacingHook hook) noexcept { sReplacingHook = hook; }
 
 std::uint64_t GetBackendGeneration() noexcept { return sGeneration; }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <kroui/Export.h>
-#include <kroui/ui/PointerEvent.h>
+#include <kroui/base/PointerEvent.h>
 
 #include <memory>
 #include <string>

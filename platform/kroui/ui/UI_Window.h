@@ -2,10 +2,10 @@
 
 #include <kroui/Export.h>
 #include <kroui/backend/BackendTypes.h>
+#include <kroui/base/KeyboardEvent.h>
+#include <kroui/base/OS_Event.h>
 #include <kroui/drawbot/DrawTypes.h>
 #include <kroui/drawbot/Image.h>
-#include <kroui/ui/KeyboardEvent.h>
-#include <kroui/ui/OS_Event.h>
 #include <kroui/ui/UI_Container.h>
 
 #include <cstdint>

@@ -3,9 +3,9 @@
 #include <kroui/ui/UI_Window.h>
 
 #include <kroui/backend/Backend.h>
-#include <kroui/ui/Cursor.h>
-#include <kroui/ui/KeyTable.h>
+#include <kroui/base/KeyTable.h>
 #include <kroui/ui/UI_NodeExtras.h>
+#include <kroui/utility/CursorDisplay.h>
 
 #include <algorithm>
 
