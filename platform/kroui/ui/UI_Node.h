@@ -248,7 +248,8 @@ protected:
 private:
   friend class UI_Container;
   friend class UI_Window;
-  friend class NodeDispatch;
+  friend class WindowInputRouter;
+  friend class WindowToolTip;
   friend class NodePainter;
 
   enum : std::uint32_t {
