@@ -55,8 +55,8 @@ bool Contains(const UI_Node& ancestor, const UI_Node* node) {
 
 } // namespace
 
-WindowInputRouter::WindowInputRouter(UI_WindowImpl& window)
-    : mWindow(window), mToolTip(window.window, mLastPointer) {}
+WindowInputRouter::WindowInputRouter(UI_WindowImpl& state)
+    : mWindow(state.window), mState(state), mToolTip(state.window, mLastPointer) {}
 
 std::uint32_t WindowInputRouter::PressedFlag(PointerEvent::Button button) {
   switch (button) {
@@ -67,7 +67,7 @@ std::uint32_t WindowInputRouter::PressedFlag(PointerEvent::Button button) {
   }
 }
 
-bool WindowInputRouter::IsOwnWindow(const UI_Node& node) const { return node.GetWindow() == &mWindow.window; }
+bool WindowInputRouter::IsOwnWindow(const UI_Node& node) const { return node.GetWindow() == &mWindow; }
 
 void WindowInputRouter::Dispatch(const OS_Event& event) {
   if (event.IsPointer()) {
@@ -82,7 +82,7 @@ void WindowInputRouter::Dispatch(const OS_Event& event) {
 // Pointer.
 
 UI_Node* WindowInputRouter::PointerTarget(Point windowPoint) const {
-  return mCapture ? mCapture : mWindow.root->HitTest(windowPoint);
+  return mCapture ? mCapture : mState.root->HitTest(windowPoint);
 }
 
 void WindowInputRouter::DispatchPointer(const OS_Event& event) {
@@ -110,7 +110,7 @@ void WindowInputRouter::DispatchPointer(const OS_Event& event) {
 void WindowInputRouter::DispatchMove(const OS_Event& event) {
   const PointerEvent pointer = MakePointerEvent(event);
   // While a node holds the capture, the pointer stays "over" it: no enter or leave.
-  if (!mCapture) UpdateHover(mWindow.root->HitTest(event.position), pointer);
+  if (!mCapture) UpdateHover(mState.root->HitTest(event.position), pointer);
   Deliver(PointerTarget(event.position), pointer);
   NotePointerMoved();
   UpdateCursor(pointer);
@@ -227,7 +227,7 @@ void WindowInputRouter::UpdateCursor(const PointerEvent& event) {
 bool WindowInputRouter::SetCaptureNode(UI_Node* node) {
   if (node && (!IsOwnWindow(*node) || !node->IsVisible())) return false;
   mCapture = node;
-  const HWND native = mWindow.GetLiveNative();
+  const HWND native = mState.GetLiveNative();
   if (!native) return true;
   backend::Backend& backend = backend::GetBackend();
   if (node) {
@@ -239,8 +239,8 @@ bool WindowInputRouter::SetCaptureNode(UI_Node* node) {
       PointerEvent pointer;
       pointer.action = PointerEvent::Action::Move;
       pointer.windowPosition = pointer.position = mLastPointer;
-      pointer.screenPosition = mWindow.window.WindowToScreen(mLastPointer);
-      UpdateHover(mWindow.root->HitTest(mLastPointer), pointer);
+      pointer.screenPosition = mWindow.WindowToScreen(mLastPointer);
+      UpdateHover(mState.root->HitTest(mLastPointer), pointer);
     }
   }
   return true;
@@ -252,7 +252,7 @@ void WindowInputRouter::DispatchDrag(const OS_Event& event) {
   if (!event.drag) return;
   DragSession& session = *event.drag;
   UI_Node* target = nullptr;
-  for (UI_Node* node = mWindow.root->HitTest(event.position); node; node = node->GetParent()) {
+  for (UI_Node* node = mState.root->HitTest(event.position); node; node = node->GetParent()) {
     if (node->WantsDragAndDropEvents() && node->IsEnabledThroughAncestors()) {
       target = node;
       break;
@@ -288,7 +288,7 @@ void WindowInputRouter::ForgetSubtree(UI_Node& node, UI_Window::Forget why) {
     // Released without looking under the pointer again: the subtree is still
     // in place and would be found. The next move brings the hover up to date.
     mCapture = nullptr;
-    const HWND native = mWindow.GetLiveNative();
+    const HWND native = mState.GetLiveNative();
     if (native && backend::GetBackend().GetCapture() == native) backend::GetBackend().ReleaseCapture();
   }
   if (Contains(node, mFocus)) SetFocusedNode(nullptr);

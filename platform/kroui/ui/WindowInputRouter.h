@@ -26,7 +26,8 @@ namespace kroui::ui {
 /// before it leaves, hides or is disabled.
 class WindowInputRouter {
 public:
-  explicit WindowInputRouter(UI_WindowImpl& window);
+  /// `state` is the window's, which outlives the router.
+  explicit WindowInputRouter(UI_WindowImpl& state);
   WindowInputRouter(const WindowInputRouter&) = delete;
   WindowInputRouter& operator=(const WindowInputRouter&) = delete;
 
@@ -74,7 +75,8 @@ private:
   UI_Node* FocusScopeOf(UI_Node* node) const;
   static void CollectFocusChain(UI_Node& scope, std::vector<UI_Node*>& chain);
 
-  UI_WindowImpl& mWindow;
+  UI_Window& mWindow;
+  UI_WindowImpl& mState;
   UI_Node* mFocus = nullptr;
   UI_Node* mCapture = nullptr;
   std::vector<UI_Node*> mHover; ///< root first, deepest last

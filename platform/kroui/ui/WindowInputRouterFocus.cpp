@@ -41,7 +41,7 @@ bool WindowInputRouter::SetFocusedNode(UI_Node* node) {
 }
 
 UI_Node* WindowInputRouter::FocusScopeOf(UI_Node* node) const {
-  UI_Node* scope = mWindow.root.Get();
+  UI_Node* scope = mState.root.Get();
   if (!node) return scope;
   for (UI_Node* ancestor = node->GetParent(); ancestor; ancestor = ancestor->GetParent()) {
     if (!ancestor->AllowFocusToAdvanceFromChildrenSelf()) return ancestor;
@@ -51,7 +51,7 @@ UI_Node* WindowInputRouter::FocusScopeOf(UI_Node* node) const {
 
 bool WindowInputRouter::AdvanceFocus(bool forward) {
   UI_Node* scope = FocusScopeOf(mFocus);
-  if (!scope->IsVisible() || !scope->IsEnabledThroughAncestors()) scope = mWindow.root.Get();
+  if (!scope->IsVisible() || !scope->IsEnabledThroughAncestors()) scope = mState.root.Get();
   std::vector<UI_Node*> chain;
   CollectFocusChain(*scope, chain);
   if (chain.empty()) return false;

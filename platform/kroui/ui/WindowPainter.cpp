@@ -26,14 +26,14 @@ drawbot::RectF ToRectF(const Rect& rect) {
 
 } // namespace
 
-WindowPainter::WindowPainter(UI_WindowImpl& window) : mWindow(window) {}
+WindowPainter::WindowPainter(UI_WindowImpl& state) : mState(state) {}
 
 WindowPainter::~WindowPainter() = default;
 
 // Invalidation.
 
 void WindowPainter::Invalidate(const Rect& area) {
-  Rect merged = area.Intersection(mWindow.root->GetLocalBounds());
+  Rect merged = area.Intersection(mState.root->GetLocalBounds());
   if (merged.IsEmpty()) return;
   for (std::size_t i = 0; i < mInvalid.size();) {
     if (Covers(mInvalid[i], merged)) return;
@@ -55,12 +55,12 @@ void WindowPainter::Invalidate(const Rect& area) {
 
 void WindowPainter::InvalidateOnlyAll() {
   mInvalid.clear();
-  Invalidate(mWindow.root->GetLocalBounds());
+  Invalidate(mState.root->GetLocalBounds());
 }
 
 void WindowPainter::SetBackgroundColor(const drawbot::ColorRGBA& color) {
   mBackground = color;
-  Invalidate(mWindow.root->GetLocalBounds());
+  Invalidate(mState.root->GetLocalBounds());
 }
 
 // Painting.
@@ -76,27 +76,27 @@ bool WindowPainter::FitSurface(Extent extent) {
 }
 
 void WindowPainter::PaintInvalid() {
-  const Extent extent = mWindow.root->GetBounds().Extent();
+  const Extent extent = mState.root->GetBounds().Extent();
   if (extent.IsEmpty()) {
     mInvalid.clear();
     return;
   }
   // A new surface starts transparent: all of it must be painted.
-  if (FitSurface(extent)) mInvalid.assign(1, mWindow.root->GetLocalBounds());
+  if (FitSurface(extent)) mInvalid.assign(1, mState.root->GetLocalBounds());
   // A translucent background (a layer over other windows) is painted whole,
   // from pixels set to it: blending it over what was shown before would keep
   // pixels that have since turned transparent.
   const bool isTranslucent = mBackground.alpha < 1.f;
   if (isTranslucent) {
     mSurface->Clear(mBackground);
-    mInvalid.assign(1, mWindow.root->GetLocalBounds());
+    mInvalid.assign(1, mState.root->GetLocalBounds());
   }
   mIsPainting = true;
   const Rect changed = PaintAreas(mSurface->BeginDrawing(), isTranslucent);
   mSurface->EndDrawing();
   ++mPaintCount;
   mIsPainting = false;
-  if (const HWND native = mWindow.GetLiveNative()) {
+  if (const HWND native = mState.GetLiveNative()) {
     backend::GetBackend().PresentPixels(native, mSurface->Snapshot(), changed);
   }
 }
@@ -111,7 +111,7 @@ Rect WindowPainter::PaintAreas(drawbot::Drawbot& drawbot, bool isTranslucent) {
     drawbot.Save();
     drawbot.ClipRect(clip);
     if (!isTranslucent) drawbot.FillRect(clip, mBackground);
-    NodePainter::PaintNode(*mWindow.root, drawbot, area);
+    NodePainter::PaintNode(*mState.root, drawbot, area);
     drawbot.Restore();
     changed = changed.Union(area);
   }

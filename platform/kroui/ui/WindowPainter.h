@@ -25,7 +25,8 @@ namespace kroui::ui {
 /// resize; a new surface is painted whole.
 class WindowPainter {
 public:
-  explicit WindowPainter(UI_WindowImpl& window);
+  /// `state` is the window's, which outlives the painter.
+  explicit WindowPainter(UI_WindowImpl& state);
   ~WindowPainter();
   WindowPainter(const WindowPainter&) = delete;
   WindowPainter& operator=(const WindowPainter&) = delete;
@@ -49,7 +50,7 @@ private:
   bool FitSurface(Extent extent);
   Rect PaintAreas(drawbot::Drawbot& drawbot, bool isTranslucent);
 
-  UI_WindowImpl& mWindow;
+  UI_WindowImpl& mState;
   std::vector<Rect> mInvalid;
   std::unique_ptr<drawbot::RasterSurface> mSurface;
   drawbot::ColorRGBA mBackground{1.f, 1.f, 1.f, 1.f};
