@@ -1,6 +1,7 @@
 #pragma once
 
 #include <kroui/Export.h>
+#include <kroui/Forward.h>
 #include <kroui/backend/BackendTypes.h>
 #include <kroui/base/Cursor.h>
 #include <kroui/base/MessageBoxRequest.h>
@@ -12,14 +13,6 @@
 #include <string>
 #include <string_view>
 #include <vector>
-
-namespace kroui::drawbot {
-class Image;
-}
-
-namespace kroui::ui {
-struct OS_Event;
-}
 
 namespace kroui::backend {
 

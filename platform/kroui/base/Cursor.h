@@ -1,6 +1,7 @@
 #pragma once
 
 #include <kroui/Export.h>
+#include <kroui/Forward.h>
 #include <kroui/base/PointerEvent.h>
 #include <kroui/drawbot/Image.h>
 
@@ -9,7 +10,6 @@
 
 namespace kroui::ui {
 
-class Cursor;
 using CursorPtr = std::shared_ptr<const Cursor>;
 
 /// The operating system's own cursor shapes besides the arrow (which is the

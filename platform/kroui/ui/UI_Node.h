@@ -1,6 +1,7 @@
 #pragma once
 
 #include <kroui/Export.h>
+#include <kroui/Forward.h>
 #include <kroui/base/DataObject.h>
 #include <kroui/base/KeyboardEvent.h>
 #include <kroui/base/PointerEvent.h>
@@ -14,17 +15,7 @@
 #include <span>
 #include <string>
 
-namespace kroui::drawbot {
-class Drawbot;
-}
-
 namespace kroui::ui {
-
-class UI_Animator;
-class UI_Container;
-class UI_Node;
-class UI_Window;
-struct UI_NodeExtras;
 
 using UI_NodePtr = krocore::IntrusivePtr<UI_Node>;
 
