@@ -40,6 +40,10 @@ std::uint32_t HeldKey(ui::KeyboardCode key) {
   return (key.IsExtended() ? sides->right : sides->left).GetControlCode(false);
 }
 
+// Every process has a backend without choosing one: this one, from the library's load on.
+[[maybe_unused]] const bool sIsDefault =
+    (SetDefaultBackendMaker([]() -> std::unique_ptr<Backend> { return std::make_unique<HeadlessBackend>(); }), true);
+
 } // namespace
 
 HeadlessBackend::HeadlessBackend() : mState(std::make_unique<State>()) {}

@@ -2,7 +2,7 @@
 
 #include <kroui/base/OS_Event.h>
 
-#include <backends/headless/HeadlessBackend.h>
+#include <krocore/debug/Assert.h>
 
 #include <chrono>
 #include <condition_variable>
@@ -18,6 +18,7 @@ std::unique_ptr<Backend>& CurrentBackend() {
 
 std::uint64_t sGeneration = 0;
 BackendReplacingHook sReplacingHook = nullptr;
+DefaultBackendMaker sDefaultMaker = nullptr;
 
 } // namespace
 
@@ -89,7 +90,9 @@ void Backend::WakeUp() {
 
 Backend& GetBackend() {
   std::unique_ptr<Backend>& current = CurrentBackend();
-  if (!current) current = std::make_unique<HeadlessBackend>();
+  if (!current && KROCORE_ASSERT(sDefaultMaker, "GetBackend: no backend is set and none is the default")) {
+    current = sDefaultMaker();
+  }
   return *current;
 }
 
@@ -98,6 +101,8 @@ void SetBackend(std::unique_ptr<Backend> backend) {
   if (sReplacingHook) sReplacingHook();
   CurrentBackend() = std::move(backend);
 }
+
+void SetDefaultBackendMaker(DefaultBackendMaker maker) noexcept { sDefaultMaker = maker; }
 
 void SetBackendReplacingHook(BackendReplacingHook hook) noexcept { sReplacingHook = hook; }
 

@@ -130,6 +130,12 @@ KROUI_API Backend& GetBackend();
 /// timers and quit request go with it: they were set on the old backend's clock.
 KROUI_API void SetBackend(std::unique_ptr<Backend> backend);
 
+/// What GetBackend makes when no backend is set. The headless backend, a
+/// level above and compiled into kroui, installs itself as it when the
+/// library loads, so that the backend need not know it.
+using DefaultBackendMaker = std::unique_ptr<Backend> (*)();
+KROUI_API void SetDefaultBackendMaker(DefaultBackendMaker maker) noexcept;
+
 /// What SetBackend calls before the previous backend goes. The event loop, a
 /// level above, installs it to let go of what it made on that backend (timers
 /// on its clock, a tooltip window), so that the backend need not know it.
