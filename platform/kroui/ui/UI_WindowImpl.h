@@ -4,8 +4,8 @@
 
 #include <kroui/backend/BackendTypes.h>
 #include <kroui/ui/UI_Window.h>
-#include <kroui/ui/WindowInputRouter.h>
-#include <kroui/ui/WindowPainter.h>
+#include <kroui/ui/WindowInputRouterImpl.h>
+#include <kroui/ui/WindowPainterImpl.h>
 
 #include <krocore/pointers/IntrusivePtr.h>
 

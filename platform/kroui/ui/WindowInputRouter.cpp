@@ -1,6 +1,6 @@
 // WindowInputRouter: the road of pointer and drag events to nodes.
 
-#include <kroui/ui/WindowInputRouter.h>
+#include <kroui/ui/WindowInputRouterImpl.h>
 
 #include <kroui/backend/Backend.h>
 #include <kroui/ui/UI_NodeExtras.h>

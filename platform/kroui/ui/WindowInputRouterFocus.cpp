@@ -1,6 +1,6 @@
 // WindowInputRouter: the keyboard focus, the Tab chain and the road of a keystroke.
 
-#include <kroui/ui/WindowInputRouter.h>
+#include <kroui/ui/WindowInputRouterImpl.h>
 
 #include <kroui/base/KeyTable.h>
 #include <kroui/ui/UI_WindowImpl.h>

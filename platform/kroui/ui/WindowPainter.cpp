@@ -1,4 +1,4 @@
-#include <kroui/ui/WindowPainter.h>
+#include <kroui/ui/WindowPainterImpl.h>
 
 #include <kroui/backend/Backend.h>
 #include <kroui/drawbot/Drawbot.h>

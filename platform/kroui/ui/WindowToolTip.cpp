@@ -1,4 +1,4 @@
-#include <kroui/ui/WindowToolTip.h>
+#include <kroui/ui/WindowToolTipImpl.h>
 
 #include <kroui/ui/EventLoop.h>
 #include <kroui/ui/ToolTipManager.h>

@@ -6,7 +6,7 @@
 #include <kroui/base/KeyboardEvent.h>
 #include <kroui/base/PointerEvent.h>
 #include <kroui/ui/UI_Window.h>
-#include <kroui/ui/WindowToolTip.h>
+#include <kroui/ui/WindowToolTipImpl.h>
 
 #include <cstdint>
 #include <vector>
