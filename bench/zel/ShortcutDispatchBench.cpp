@@ -7,7 +7,7 @@
 #include <zel/commands/ShortcutManager.h>
 
 #include <krocore/threads/MainThreadQueue.h>
-#include <kroui/ui/KeyboardEvent.h>
+#include <kroui/base/KeyboardEvent.h>
 
 #include <benchmark/benchmark.h>
 

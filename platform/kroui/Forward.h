@@ -19,14 +19,28 @@ class UI_Animator;
 class UI_Container;
 class UI_Node;
 class UI_Window;
+struct UI_NodeAnchor;
 template <typename T>
 class RefCountedWeakPtr;
+
+// Private implementations, named here because a public class holds them by pointer.
+struct UI_WindowImpl;
+struct UI_NodeExtras;
 } // namespace kroui::ui
 
 namespace kroui::drawbot {
 class Drawbot;
 class Image;
+class RasterSurface;
 class RecordingDrawbot;
+struct ColorRGBA;
+struct DrawCommand;
+struct FontKey;
+struct FontSpec;
+struct GlyphRunCacheStatistics;
+struct PointF;
+struct RectF;
+struct TextMetrics;
 } // namespace kroui::drawbot
 
 namespace kroui::ksv {
@@ -54,8 +68,10 @@ class DTDEntities;
 class Theme;
 class ThemeChangedFunctionHandle;
 class ThemeReader;
+struct FontSize;
 struct KeyFrame;
 struct ThemeDocument;
+struct ThemeValue;
 } // namespace kroui::ui
 
 namespace kroui::skins::core {

@@ -4,7 +4,7 @@
 #include <zel/commands/CommandTypes.h>
 
 #include <krocore/utility/Flags.h>
-#include <kroui/ui/KeyboardCode.h>
+#include <kroui/base/KeyboardCode.h>
 
 #include <cstdint>
 

@@ -6,7 +6,7 @@
 #include <zel/commands/ContextRegistry.h>
 
 #include <krocore/debug/Assert.h>
-#include <kroui/ui/KeyboardEvent.h>
+#include <kroui/base/KeyboardEvent.h>
 
 namespace ZEL {
 namespace {

@@ -1,8 +1,8 @@
 #include <zel/views/OverlayViewImpl.h>
 
+#include <kroui/base/OS_Event.h>
 #include <kroui/drawbot/Drawbot.h>
 #include <kroui/drawbot/Image.h>
-#include <kroui/ui/OS_Event.h>
 #include <kroui/ui/UI_Window.h>
 
 #include <cmath>

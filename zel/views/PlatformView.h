@@ -7,12 +7,11 @@
 #include <zel/views/ViewBase.h>
 
 #include <kroui/Forward.h>
+#include <kroui/base/PointerEvent.h>
 #include <kroui/os/NativeTypes.h>
-#include <kroui/ui/PointerEvent.h>
 #include <kroui/ui/RefCountedWeakPtr.h>
 
 #include <cstdint>
-
 
 namespace ZEL {
 
@@ -99,7 +98,8 @@ protected:
   virtual void MouseMoveSelf(const Point& point, KeyModifiers modifiers);
   virtual void MouseLeaveSelf();
   /// By default a vertical turn is handed to the short overload below.
-  virtual bool MouseWheelSelf(const Point& point, KeyModifiers modifiers, int deltaX, int deltaY, bool isPrecise);
+  virtual bool MouseWheelSelf(const Point& point, KeyModifiers modifiers, int deltaX, int deltaY,
+                              bool isPrecise);
   virtual bool MouseWheelSelf(const Point& point, KeyModifiers modifiers, int delta);
   virtual bool MouseMagnifySelf(const Point& point, const float& magnification, KeyModifiers modifiers);
   virtual bool MouseRotateSelf(const Point& point, const float& rotation, KeyModifiers modifiers);

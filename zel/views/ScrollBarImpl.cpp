@@ -4,8 +4,8 @@
 
 #include <zel/views/ScrollBarMessages.h>
 
-#include <kroui/ui/KeyTable.h>
-#include <kroui/ui/KeyboardEvent.h>
+#include <kroui/base/KeyTable.h>
+#include <kroui/base/KeyboardEvent.h>
 
 #include <limits>
 #include <optional>

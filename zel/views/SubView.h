@@ -7,13 +7,12 @@
 #include <zel/views/ViewBase.h>
 
 #include <kroui/Forward.h>
+#include <kroui/base/PointerEvent.h>
 #include <kroui/drawbot/DrawTypes.h>
-#include <kroui/ui/PointerEvent.h>
 #include <kroui/ui/RefCountedWeakPtr.h>
 
 #include <memory>
 #include <string>
-
 
 namespace ZEL {
 
@@ -96,7 +95,8 @@ protected:
   virtual bool SetCursorSelf(const Point& point, KeyModifiers modifiers);
   virtual void MouseMoveSelf(const Point& point, KeyModifiers modifiers);
   virtual void MouseLeaveSelf();
-  virtual bool MouseWheelSelf(const Point& point, KeyModifiers modifiers, int deltaX, int deltaY, bool isPrecise);
+  virtual bool MouseWheelSelf(const Point& point, KeyModifiers modifiers, int deltaX, int deltaY,
+                              bool isPrecise);
   virtual bool MouseMagnifySelf(const Point& point, const float& magnification, KeyModifiers modifiers);
   virtual bool MouseRotateSelf(const Point& point, const float& rotation, KeyModifiers modifiers);
   virtual bool MousePanSelf(const Point& point, const Point& delta);

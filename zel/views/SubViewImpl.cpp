@@ -5,7 +5,7 @@
 #include <zel/commands/ShortcutManager.h>
 #include <zel/views/ViewSupport.h>
 
-#include <kroui/ui/DataObject.h>
+#include <kroui/base/DataObject.h>
 
 #include <utility>
 

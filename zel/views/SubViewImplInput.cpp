@@ -4,7 +4,7 @@
 
 #include <zel/views/SubViewImpl.h>
 
-#include <kroui/ui/KeyboardEvent.h>
+#include <kroui/base/KeyboardEvent.h>
 
 namespace ZEL {
 namespace {

@@ -5,8 +5,8 @@
 // sets cannot drift apart. Nothing is consumed: every event goes on to the
 // parent, and a drag is refused.
 
-#include <kroui/ui/DataObject.h>
-#include <kroui/ui/PointerEvent.h>
+#include <kroui/base/DataObject.h>
+#include <kroui/base/PointerEvent.h>
 
 #define ZEL_DEFINE_SHARED_VIEW_HOOK_DEFAULTS(View)                                                          \
   void View::FinishCreateSelf(const Rect&) {}                                                               \

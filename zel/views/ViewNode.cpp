@@ -6,7 +6,7 @@
 #include <zel/views/SubView.h>
 #include <zel/views/ViewSupport.h>
 
-#include <kroui/ui/DataObject.h>
+#include <kroui/base/DataObject.h>
 #include <kroui/ui/UI_Container.h>
 
 #include <utility>

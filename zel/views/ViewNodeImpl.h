@@ -16,7 +16,7 @@
 #include <zel/commands/KeySpec.h>
 
 #include <kroui/Forward.h>
-#include <kroui/ui/PointerEvent.h>
+#include <kroui/base/PointerEvent.h>
 #include <kroui/ui/UI_Node.h>
 
 #include <memory>

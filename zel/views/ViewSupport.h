@@ -8,8 +8,8 @@
 
 #include <krocore/pointers/IntrusivePtr.h>
 #include <kroui/Forward.h>
+#include <kroui/base/ModifierKeys.h>
 #include <kroui/skins/SkinManager.h>
-#include <kroui/ui/ModifierKeys.h>
 
 #include <memory>
 #include <source_location>
@@ -27,7 +27,9 @@ inline int ToolTipDelay() noexcept {
   return kroui::skins::IsRunningV7OrBeyond() ? kToolTipDelay_V7 : kToolTipDelay_BeforeV7;
 }
 
-inline KeyModifiers ToKeyModifiers(kroui::ui::ModifierKeys modifiers) { return KeyModifiers(modifiers.GetValue()); }
+inline KeyModifiers ToKeyModifiers(kroui::ui::ModifierKeys modifiers) {
+  return KeyModifiers(modifiers.GetValue());
+}
 
 /// Reports "<name> has not been initialized" against the operation at `where`.
 ZEL_API void ReportNotInitialized(std::string_view name, const std::source_location& where);

@@ -3,7 +3,7 @@
 #include <backends/headless/HeadlessBackend.h>
 #include <backends/headless/HeadlessStateImpl.h>
 
-#include <kroui/ui/KeyTable.h>
+#include <kroui/base/KeyTable.h>
 
 #include <krocore/debug/Assert.h>
 
@@ -39,6 +39,10 @@ std::uint32_t HeldKey(ui::KeyboardCode key) {
   if (sides == nullptr) return key.GetControlCode(false);
   return (key.IsExtended() ? sides->right : sides->left).GetControlCode(false);
 }
+
+// Every process has a backend without choosing one: this one, from the library's load on.
+[[maybe_unused]] const bool sIsDefault =
+    (SetDefaultBackendMaker([]() -> std::unique_ptr<Backend> { return std::make_unique<HeadlessBackend>(); }), true);
 
 } // namespace
 

@@ -2,9 +2,9 @@
 
 #include <kroui/Export.h>
 #include <kroui/backend/Backend.h>
+#include <kroui/base/KeyboardCode.h>
+#include <kroui/base/OS_Event.h>
 #include <kroui/drawbot/Image.h>
-#include <kroui/ui/KeyboardCode.h>
-#include <kroui/ui/OS_Event.h>
 
 #include <krocore/utility/Result.h>
 

@@ -3,7 +3,7 @@
 #include <backends/headless/HeadlessBackend.h>
 #include <backends/headless/HeadlessStateImpl.h>
 
-#include <kroui/ui/KeyTable.h>
+#include <kroui/base/KeyTable.h>
 
 #include <cstdlib>
 

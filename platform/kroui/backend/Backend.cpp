@@ -1,9 +1,8 @@
 #include <kroui/backend/Backend.h>
 
-#include <kroui/ui/EventLoop.h>
-#include <kroui/ui/OS_Event.h>
+#include <kroui/base/OS_Event.h>
 
-#include <backends/headless/HeadlessBackend.h>
+#include <krocore/debug/Assert.h>
 
 #include <chrono>
 #include <condition_variable>
@@ -18,6 +17,8 @@ std::unique_ptr<Backend>& CurrentBackend() {
 }
 
 std::uint64_t sGeneration = 0;
+BackendReplacingHook sReplacingHook = nullptr;
+DefaultBackendMaker sDefaultMaker = nullptr;
 
 } // namespace
 
@@ -89,15 +90,21 @@ void Backend::WakeUp() {
 
 Backend& GetBackend() {
   std::unique_ptr<Backend>& current = CurrentBackend();
-  if (!current) current = std::make_unique<HeadlessBackend>();
+  if (!current && KROCORE_ASSERT(sDefaultMaker, "GetBackend: no backend is set and none is the default")) {
+    current = sDefaultMaker();
+  }
   return *current;
 }
 
 void SetBackend(std::unique_ptr<Backend> backend) {
   ++sGeneration;
-  ui::EventLoop::Instance().Reset();
+  if (sReplacingHook) sReplacingHook();
   CurrentBackend() = std::move(backend);
 }
+
+void SetDefaultBackendMaker(DefaultBackendMaker maker) noexcept { sDefaultMaker = maker; }
+
+void SetBackendReplacingHook(BackendReplacingHook hook) noexcept { sReplacingHook = hook; }
 
 std::uint64_t GetBackendGeneration() noexcept { return sGeneration; }
 

@@ -1,10 +1,11 @@
 #pragma once
 
 #include <kroui/Export.h>
+#include <kroui/Forward.h>
 #include <kroui/backend/BackendTypes.h>
-#include <kroui/ui/Cursor.h>
-#include <kroui/ui/MessageBox.h>
-#include <kroui/ui/ModifierKeys.h>
+#include <kroui/base/Cursor.h>
+#include <kroui/base/MessageBoxRequest.h>
+#include <kroui/base/ModifierKeys.h>
 
 #include <cstdint>
 #include <memory>
@@ -12,14 +13,6 @@
 #include <string>
 #include <string_view>
 #include <vector>
-
-namespace kroui::drawbot {
-class Image;
-}
-
-namespace kroui::ui {
-struct OS_Event;
-}
 
 namespace kroui::backend {
 
@@ -136,6 +129,18 @@ KROUI_API Backend& GetBackend();
 /// so that the next GetBackend() makes a fresh default. The event loop's
 /// timers and quit request go with it: they were set on the old backend's clock.
 KROUI_API void SetBackend(std::unique_ptr<Backend> backend);
+
+/// What GetBackend makes when no backend is set. The headless backend, a
+/// level above and compiled into kroui, installs itself as it when the
+/// library loads, so that the backend need not know it.
+using DefaultBackendMaker = std::unique_ptr<Backend> (*)();
+KROUI_API void SetDefaultBackendMaker(DefaultBackendMaker maker) noexcept;
+
+/// What SetBackend calls before the previous backend goes. The event loop, a
+/// level above, installs it to let go of what it made on that backend (timers
+/// on its clock, a tooltip window), so that the backend need not know it.
+using BackendReplacingHook = void (*)();
+KROUI_API void SetBackendReplacingHook(BackendReplacingHook hook) noexcept;
 
 /// Counts replacements of the backend, so that a window can tell whether the
 /// backend that made its handle is still the current one.

@@ -1,6 +1,6 @@
 #include <kroui/ksv/ActionInfo.h>
 
-#include <kroui/ui/KeyTable.h>
+#include <kroui/base/KeyTable.h>
 
 #include <string_view>
 

@@ -1,7 +1,7 @@
 #include <kroui/ui/EventLoop.h>
 
 #include <kroui/backend/Backend.h>
-#include <kroui/ui/OS_Event.h>
+#include <kroui/base/OS_Event.h>
 #include <kroui/ui/ToolTipManager.h>
 #include <kroui/ui/UI_Window.h>
 
@@ -35,6 +35,11 @@ public:
 private:
   static inline int sDepth = 0;
 };
+
+// Timers run on the backend's clock and a tooltip is one of its windows: the
+// loop lets go of them whenever the backend is replaced, from the library's load on.
+[[maybe_unused]] const bool sResetsWithBackend =
+    (backend::SetBackendReplacingHook([] { EventLoop::Instance().Reset(); }), true);
 
 } // namespace
 

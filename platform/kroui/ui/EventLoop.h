@@ -1,6 +1,7 @@
 #pragma once
 
 #include <kroui/Export.h>
+#include <kroui/Forward.h>
 #include <kroui/backend/BackendTypes.h>
 #include <kroui/os/NativeTypes.h>
 #include <kroui/utility/TimerQueue.h>
@@ -11,8 +12,6 @@
 #include <optional>
 
 namespace kroui::ui {
-
-struct OS_Event;
 
 /// The UI thread's loop: takes events from the backend and hands them to
 /// their windows, runs the krocore main-thread queue, fires timers and paints

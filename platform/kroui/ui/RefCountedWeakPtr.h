@@ -1,13 +1,13 @@
 #pragma once
 
+#include <kroui/Forward.h>
+
 #include <krocore/pointers/IntrusivePtr.h>
 
 #include <memory>
 #include <type_traits>
 
 namespace kroui::ui {
-
-class UI_Node;
 
 /// What weak references to one node share; the node clears it when it dies.
 struct UI_NodeAnchor {

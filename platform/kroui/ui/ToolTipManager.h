@@ -1,14 +1,13 @@
 #pragma once
 
 #include <kroui/Export.h>
-#include <kroui/ui/PointerEvent.h>
+#include <kroui/Forward.h>
+#include <kroui/base/PointerEvent.h>
 
 #include <memory>
 #include <string>
 
 namespace kroui::ui {
-
-class UI_Window;
 
 /// Shows the one tooltip of the process: a small topmost pop-up window that
 /// does not take the focus, with the text on one line per line of text.

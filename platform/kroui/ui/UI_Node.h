@@ -1,10 +1,11 @@
 #pragma once
 
 #include <kroui/Export.h>
+#include <kroui/Forward.h>
+#include <kroui/base/DataObject.h>
+#include <kroui/base/KeyboardEvent.h>
+#include <kroui/base/PointerEvent.h>
 #include <kroui/drawbot/DrawTypes.h>
-#include <kroui/ui/DataObject.h>
-#include <kroui/ui/KeyboardEvent.h>
-#include <kroui/ui/PointerEvent.h>
 #include <kroui/ui/RefCountedWeakPtr.h>
 
 #include <krocore/pointers/IntrusivePtr.h>
@@ -14,17 +15,7 @@
 #include <span>
 #include <string>
 
-namespace kroui::drawbot {
-class Drawbot;
-}
-
 namespace kroui::ui {
-
-class UI_Animator;
-class UI_Container;
-class UI_Node;
-class UI_Window;
-struct UI_NodeExtras;
 
 using UI_NodePtr = krocore::IntrusivePtr<UI_Node>;
 
@@ -248,7 +239,8 @@ protected:
 private:
   friend class UI_Container;
   friend class UI_Window;
-  friend class NodeDispatch;
+  friend class WindowInputRouter;
+  friend class WindowToolTip;
   friend class NodePainter;
 
   enum : std::uint32_t {

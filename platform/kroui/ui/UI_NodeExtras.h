@@ -2,14 +2,11 @@
 
 // Private: the rarely used state of a node, made on first use.
 
+#include <kroui/Forward.h>
 #include <kroui/ui/UI_Node.h>
 
 #include <memory>
 #include <string>
-
-namespace kroui::drawbot {
-class RasterSurface;
-}
 
 namespace kroui::ui {
 

@@ -2,7 +2,7 @@
 
 // Private: the pictures of the system's and the platform's own cursors.
 
-#include <kroui/ui/Cursor.h>
+#include <kroui/base/Cursor.h>
 #include <kroui/utility/CursorCanvas.h>
 
 #include <cstdint>

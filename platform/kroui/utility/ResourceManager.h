@@ -1,7 +1,7 @@
 #pragma once
 
 #include <kroui/Export.h>
-#include <kroui/ui/Cursor.h>
+#include <kroui/utility/CursorDisplay.h>
 
 #include <cstdint>
 #include <functional>

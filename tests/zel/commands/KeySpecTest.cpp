@@ -1,7 +1,7 @@
 #include <zel/commands/KeySpec.h>
 
 #include <backends/headless/HeadlessBackend.h>
-#include <kroui/ui/KeyTable.h>
+#include <kroui/base/KeyTable.h>
 
 #include <gtest/gtest.h>
 

@@ -7,7 +7,7 @@
 #include <krocore/threads/MainThreadQueue.h>
 #include <kroscripting/events/Event.h>
 #include <kroscripting/events/EventListenerToken.h>
-#include <kroui/ui/KeyboardEvent.h>
+#include <kroui/base/KeyboardEvent.h>
 
 #include <gtest/gtest.h>
 

@@ -4,8 +4,8 @@
 
 #include <krocore/debug/Assert.h>
 #include <krocore/messaging/Listener.h>
+#include <kroui/base/KeyTable.h>
 #include <kroui/drawbot/RecordingDrawbot.h>
-#include <kroui/ui/KeyTable.h>
 
 #include <gtest/gtest.h>
 

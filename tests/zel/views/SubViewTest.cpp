@@ -4,10 +4,10 @@
 #include <zel/views/DC.h>
 
 #include <krocore/debug/Assert.h>
+#include <kroui/base/DataObject.h>
+#include <kroui/base/KeyTable.h>
 #include <kroui/drawbot/RecordingDrawbot.h>
 #include <kroui/skins/SkinManager.h>
-#include <kroui/ui/DataObject.h>
-#include <kroui/ui/KeyTable.h>
 
 #include <gtest/gtest.h>
 

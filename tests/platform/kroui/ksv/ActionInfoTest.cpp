@@ -1,5 +1,5 @@
+#include <kroui/base/KeyTable.h>
 #include <kroui/ksv/ActionInfo.h>
-#include <kroui/ui/KeyTable.h>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,5 @@
 #include <kroui/ui/EventLoop.h>
+#include <kroui/ui/ToolTipManager.h>
 
 #include <krocore/threads/MainThreadQueue.h>
 
@@ -159,6 +160,16 @@ TEST_F(EventLoopTest, ReplacingTheBackendDropsTimersMadeOnItsClock) {
   kroui::backend::HeadlessBackend::Install();
   EXPECT_EQ(Loop().GetTimers().GetCount(), 0u);
   EXPECT_FALSE(node->HasTimer(1));
+}
+
+TEST_F(EventLoopTest, ReplacingTheBackendClosesTheTooltipAndForgetsTheQuitRequest) {
+  ToolTipManager& toolTips = ToolTipManager::Instance();
+  toolTips.Show("Trim", {10, 10}, nullptr);
+  ASSERT_TRUE(toolTips.IsShown());
+  Loop().Quit();
+  kroui::backend::HeadlessBackend::Install();
+  EXPECT_FALSE(toolTips.IsShown());
+  EXPECT_FALSE(Loop().IsQuitRequested());
 }
 
 } // namespace

@@ -62,7 +62,11 @@ TEST_F(ToolTips, MovingWithinTheNodeKeepsTheWaitGoing) {
   Wait(150);
   RestOn(25, 30);
   Wait(50);
-  EXPECT_TRUE(Manager().IsShown());
+  ASSERT_TRUE(Manager().IsShown());
+  // Where the pointer rests when the delay ends, not where the wait began.
+  const auto* record = Headless().FindWindow(Manager().GetWindow()->GetNativeWindow());
+  ASSERT_NE(record, nullptr);
+  EXPECT_EQ(record->description.bounds.Origin(), (Point{125, 150}));
 }
 
 struct DismissCase {

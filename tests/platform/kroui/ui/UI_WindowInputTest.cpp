@@ -1,5 +1,5 @@
-#include <kroui/ui/Cursor.h>
 #include <kroui/ui/UI_Window.h>
+#include <kroui/utility/CursorDisplay.h>
 
 #include "NodeTestSupport.h"
 

@@ -1,4 +1,4 @@
-#include <kroui/ui/KeyTable.h>
+#include <kroui/base/KeyTable.h>
 #include <kroui/utility/KeyState.h>
 
 #include <HeadlessFixture.h>

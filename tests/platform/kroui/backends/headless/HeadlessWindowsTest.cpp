@@ -1,5 +1,5 @@
+#include <kroui/base/OS_Event.h>
 #include <kroui/ui/EventLoop.h>
-#include <kroui/ui/OS_Event.h>
 
 #include <krocore/debug/Assert.h>
 

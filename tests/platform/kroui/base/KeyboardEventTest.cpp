@@ -1,5 +1,5 @@
-#include <kroui/ui/KeyTable.h>
-#include <kroui/ui/KeyboardEvent.h>
+#include <kroui/base/KeyTable.h>
+#include <kroui/base/KeyboardEvent.h>
 
 #include <gtest/gtest.h>
 

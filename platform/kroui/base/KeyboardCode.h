@@ -8,7 +8,7 @@ namespace kroui::ui {
 
 /// One key, numbered as Windows numbers its virtual keys on every OS, so that a
 /// saved shortcut names the same key everywhere ('A' = 0x41, F1 = 0x70,
-/// Left = 0x25). The named keys are in <kroui/ui/KeyTable.h>.
+/// Left = 0x25). The named keys are in <kroui/base/KeyTable.h>.
 ///
 ///   bits  0..15  virtual key (every named key is below 0x100; 0 = no key)
 ///   bit   24     extended: the key is of the extended set, as Windows marks

@@ -1,4 +1,4 @@
-#include <kroui/ui/OS_Event.h>
+#include <kroui/base/OS_Event.h>
 
 namespace kroui::ui {
 namespace {

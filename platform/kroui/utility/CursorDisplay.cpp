@@ -1,8 +1,6 @@
-#include <kroui/ui/Cursor.h>
+#include <kroui/utility/CursorDisplay.h>
 
 #include <kroui/backend/Backend.h>
-
-#include <krocore/debug/Assert.h>
 
 #include <algorithm>
 
@@ -27,17 +25,6 @@ PointerState& State() {
 bool IsShown(const PointerState& state) { return state.hideCount == 0 && !state.isHiddenUntilMove; }
 
 } // namespace
-
-CursorPtr Cursor::Create(drawbot::Image image, Point hotSpot) {
-  return CreateSystem(SystemCursor::None, std::move(image), hotSpot);
-}
-
-CursorPtr Cursor::CreateSystem(SystemCursor shape, drawbot::Image image, Point hotSpot) {
-  if (!KROCORE_ASSERT(image.IsValid(), "Cursor: a cursor needs an image")) return nullptr;
-  const Point clamped{std::clamp(hotSpot.x, 0, image.GetWidth() - 1), std::clamp(hotSpot.y, 0, image.GetHeight() - 1)};
-  KROCORE_ASSERT(clamped == hotSpot, "Cursor: the hot spot lies outside the image");
-  return CursorPtr(new Cursor(std::move(image), clamped, shape));
-}
 
 void SetCursor(CursorPtr cursor) { SetCursor(std::move(cursor), CursorHold::None); }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <kroui/Export.h>
-#include <kroui/ui/KeyboardCode.h>
-#include <kroui/ui/ModifierKeys.h>
+#include <kroui/base/KeyboardCode.h>
+#include <kroui/base/ModifierKeys.h>
 
 #include <cstdint>
 

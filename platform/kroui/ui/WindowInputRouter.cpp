@@ -1,11 +1,11 @@
-// UI_Window: the road of pointer, keyboard and drag events to nodes.
+// WindowInputRouter: the road of pointer and drag events to nodes.
 
-#include <kroui/ui/UI_Window.h>
+#include <kroui/ui/WindowInputRouterImpl.h>
 
 #include <kroui/backend/Backend.h>
-#include <kroui/ui/Cursor.h>
-#include <kroui/ui/KeyTable.h>
 #include <kroui/ui/UI_NodeExtras.h>
+#include <kroui/ui/UI_WindowImpl.h>
+#include <kroui/utility/CursorDisplay.h>
 
 #include <algorithm>
 
@@ -46,9 +46,19 @@ PointerEvent MakePointerEvent(const OS_Event& event) {
   return pointer;
 }
 
+bool Contains(const UI_Node& ancestor, const UI_Node* node) {
+  for (; node; node = node->GetParent()) {
+    if (node == &ancestor) return true;
+  }
+  return false;
+}
+
 } // namespace
 
-std::uint32_t UI_Window::PressedFlag(PointerEvent::Button button) {
+WindowInputRouter::WindowInputRouter(UI_WindowImpl& state)
+    : mWindow(state.window), mState(state), mToolTip(state.window, mLastPointer) {}
+
+std::uint32_t WindowInputRouter::PressedFlag(PointerEvent::Button button) {
   switch (button) {
   case PointerEvent::Button::Left: return UI_Node::kFlag_LeftDown;
   case PointerEvent::Button::Right: return UI_Node::kFlag_RightDown;
@@ -57,28 +67,28 @@ std::uint32_t UI_Window::PressedFlag(PointerEvent::Button button) {
   }
 }
 
-void UI_Window::DispatchEvent(const OS_Event& event) {
-  if (mEventHook && mEventHook(event)) return;
-  const bool takesInput = IsEnabled();
+bool WindowInputRouter::IsOwnWindow(const UI_Node& node) const { return node.GetWindow() == &mWindow; }
+
+void WindowInputRouter::Dispatch(const OS_Event& event) {
   if (event.IsPointer()) {
-    if (takesInput) DispatchPointer(event);
+    DispatchPointer(event);
   } else if (event.IsKeyboard()) {
-    if (takesInput) DispatchKeyboard(event);
+    DispatchKeyboard(event);
   } else if (event.IsDrag()) {
-    if (takesInput) DispatchDrag(event);
-  } else {
-    HandleWindowEvent(event);
+    DispatchDrag(event);
   }
 }
 
 // Pointer.
 
-UI_Node* UI_Window::PointerTarget(Point windowPoint) const { return mCapture ? mCapture : mRoot->HitTest(windowPoint); }
+UI_Node* WindowInputRouter::PointerTarget(Point windowPoint) const {
+  return mCapture ? mCapture : mState.root->HitTest(windowPoint);
+}
 
-void UI_Window::DispatchPointer(const OS_Event& event) {
+void WindowInputRouter::DispatchPointer(const OS_Event& event) {
   if (event.type == OS_Event::Type::MouseLeaveWindow) {
     mPointerInside = false;
-    CancelToolTip();
+    mToolTip.Cancel();
     if (!mCapture) LeaveAll();
     return;
   }
@@ -91,23 +101,23 @@ void UI_Window::DispatchPointer(const OS_Event& event) {
   case OS_Event::Type::MouseDown:
   case OS_Event::Type::MouseUp: DispatchButton(event); break;
   default:
-    if (event.type == OS_Event::Type::MouseWheel) CancelToolTip();
+    if (event.type == OS_Event::Type::MouseWheel) mToolTip.Cancel();
     Deliver(PointerTarget(event.position), MakePointerEvent(event));
     break;
   }
 }
 
-void UI_Window::DispatchMove(const OS_Event& event) {
+void WindowInputRouter::DispatchMove(const OS_Event& event) {
   const PointerEvent pointer = MakePointerEvent(event);
   // While a node holds the capture, the pointer stays "over" it: no enter or leave.
-  if (!mCapture) UpdateHover(mRoot->HitTest(event.position), pointer);
+  if (!mCapture) UpdateHover(mState.root->HitTest(event.position), pointer);
   Deliver(PointerTarget(event.position), pointer);
   NotePointerMoved();
   UpdateCursor(pointer);
 }
 
-void UI_Window::DispatchButton(const OS_Event& event) {
-  CancelToolTip();
+void WindowInputRouter::DispatchButton(const OS_Event& event) {
+  mToolTip.Cancel();
   PointerEvent pointer = MakePointerEvent(event);
   UI_Node* target = PointerTarget(event.position);
   const auto button = static_cast<std::size_t>(event.button);
@@ -124,16 +134,16 @@ void UI_Window::DispatchButton(const OS_Event& event) {
   }
   if (!consumer && Deliver(target, pointer)) consumer = mConsumer;
   UI_Node* pressed = consumer ? consumer : target;
-  if (pressed && pressed->GetWindow() == this) {
+  if (pressed && IsOwnWindow(*pressed)) {
     if (mPressed[button]) mPressed[button]->SetFlag(PressedFlag(event.button), false);
     mPressed[button] = pressed;
     pressed->SetFlag(PressedFlag(event.button), true);
   }
 }
 
-bool UI_Window::Deliver(UI_Node* target, PointerEvent event) {
+bool WindowInputRouter::Deliver(UI_Node* target, PointerEvent event) {
   mConsumer = nullptr;
-  for (UI_NodePtr node(target); node && node->GetWindow() == this; node = UI_NodePtr(node->GetParent())) {
+  for (UI_NodePtr node(target); node && IsOwnWindow(*node); node = UI_NodePtr(node->GetParent())) {
     // Events at a disabled node go nowhere, not to its parent.
     if (!node->IsEnabledThroughAncestors()) return false;
     PointerEvent local = event;
@@ -151,7 +161,7 @@ bool UI_Window::Deliver(UI_Node* target, PointerEvent event) {
   return false;
 }
 
-bool UI_Window::CallPointerHook(UI_Node& node, const PointerEvent& event) {
+bool WindowInputRouter::CallPointerHook(UI_Node& node, const PointerEvent& event) {
   UI_NodeExtras& extras = node.Extras();
   extras.dispatchingSubType = event.subType;
   using Action = PointerEvent::Action;
@@ -172,7 +182,9 @@ bool UI_Window::CallPointerHook(UI_Node& node, const PointerEvent& event) {
   return consumed;
 }
 
-void UI_Window::UpdateHover(UI_Node* hit, const PointerEvent& event) {
+// Hover, cursor, capture.
+
+void WindowInputRouter::UpdateHover(UI_Node* hit, const PointerEvent& event) {
   std::vector<UI_Node*> path;
   for (UI_Node* node = hit; node; node = node->GetParent()) path.push_back(node);
   std::reverse(path.begin(), path.end());
@@ -184,24 +196,24 @@ void UI_Window::UpdateHover(UI_Node* hit, const PointerEvent& event) {
   mHover = std::move(path);
   for (auto it = leaving.rbegin(); it != leaving.rend(); ++it) (*it)->MouseLeaveSelf();
   for (const UI_NodePtr& node : entering) {
-    if (node->GetWindow() != this) continue; // an earlier hook took it out
+    if (!IsOwnWindow(*node)) continue; // an earlier hook took it out
     PointerEvent local = event;
     local.action = PointerEvent::Action::Enter;
     local.position = node->WindowToLocal(event.windowPosition);
     node->MouseEnterSelf(local);
   }
-  StartToolTip(event);
+  mToolTip.Start(mHover);
 }
 
-void UI_Window::LeaveAll() {
+void WindowInputRouter::LeaveAll() {
   const std::vector<UI_NodePtr> leaving(mHover.begin(), mHover.end());
   mHover.clear();
   for (auto it = leaving.rbegin(); it != leaving.rend(); ++it) (*it)->MouseLeaveSelf();
 }
 
-void UI_Window::UpdateCursor(const PointerEvent& event) {
+void WindowInputRouter::UpdateCursor(const PointerEvent& event) {
   UI_Node* start = mCapture ? mCapture : GetHoverNode();
-  for (UI_NodePtr node(start); node && node->GetWindow() == this; node = UI_NodePtr(node->GetParent())) {
+  for (UI_NodePtr node(start); node && IsOwnWindow(*node); node = UI_NodePtr(node->GetParent())) {
     PointerEvent local = event;
     local.position = node->WindowToLocal(event.windowPosition);
     if (node->SetCursorSelf(local)) return;
@@ -212,60 +224,35 @@ void UI_Window::UpdateCursor(const PointerEvent& event) {
   if (!IsCursorHeld(isButtonDown)) backend::GetBackend().SetCursor(nullptr);
 }
 
-bool UI_Window::SetCaptureNode(UI_Node* node) {
-  if (node && (node->GetWindow() != this || !node->IsVisible())) return false;
+bool WindowInputRouter::SetCaptureNode(UI_Node* node) {
+  if (node && (!IsOwnWindow(*node) || !node->IsVisible())) return false;
   mCapture = node;
-  if (!IsCreated() || !IsBackendCurrent()) return true;
+  const HWND native = mState.GetLiveNative();
+  if (!native) return true;
   backend::Backend& backend = backend::GetBackend();
   if (node) {
-    backend.SetCapture(mNative);
+    backend.SetCapture(native);
   } else {
-    if (backend.GetCapture() == mNative) backend.ReleaseCapture();
+    if (backend.GetCapture() == native) backend.ReleaseCapture();
     // What is under the pointer may have changed during the capture.
     if (mPointerInside) {
       PointerEvent pointer;
       pointer.action = PointerEvent::Action::Move;
       pointer.windowPosition = pointer.position = mLastPointer;
-      pointer.screenPosition = WindowToScreen(mLastPointer);
-      UpdateHover(mRoot->HitTest(mLastPointer), pointer);
+      pointer.screenPosition = mWindow.WindowToScreen(mLastPointer);
+      UpdateHover(mState.root->HitTest(mLastPointer), pointer);
     }
   }
   return true;
 }
 
-// Keyboard.
-
-void UI_Window::DispatchKeyboard(const OS_Event& event) {
-  const KeyboardEvent& key = event.key;
-  CancelToolTip();
-  if (mPreDispatch && mPreDispatch(key)) return;
-  if (DeliverKey(key)) return;
-  if (mPostDispatch && mPostDispatch(key)) return;
-  const bool isTab = key.GetAction() == KeyboardEvent::kAction_KeyDown && key.GetCode().GetControlCode(false) ==
-                                                                             kKey_Tab.GetControlCode(false);
-  if (isTab && !key.GetModKey().HasAny(kModKey_Control | kModKey_Alt)) {
-    AdvanceFocus(!key.GetModKey().Has(kModKey_Shift));
-  }
-}
-
-bool UI_Window::DeliverKey(const KeyboardEvent& event) {
-  if (!mFocus || !mFocus->IsVisible() || !mFocus->IsEnabledThroughAncestors()) return false;
-  const UI_NodePtr node(mFocus);
-  switch (event.GetAction()) {
-  case KeyboardEvent::kAction_KeyDown: return node->KeyDownSelf(event);
-  case KeyboardEvent::kAction_KeyUp: return node->KeyUpSelf(event);
-  case KeyboardEvent::kAction_CharacterInput: return node->CharacterInputSelf(event);
-  default: return false;
-  }
-}
-
 // Drag and drop.
 
-void UI_Window::DispatchDrag(const OS_Event& event) {
+void WindowInputRouter::DispatchDrag(const OS_Event& event) {
   if (!event.drag) return;
   DragSession& session = *event.drag;
   UI_Node* target = nullptr;
-  for (UI_Node* node = mRoot->HitTest(event.position); node; node = node->GetParent()) {
+  for (UI_Node* node = mState.root->HitTest(event.position); node; node = node->GetParent()) {
     if (node->WantsDragAndDropEvents() && node->IsEnabledThroughAncestors()) {
       target = node;
       break;
@@ -277,7 +264,7 @@ void UI_Window::DispatchDrag(const OS_Event& event) {
     left->DragLeaveSelf();
     session.acceptedEffect = kDropEffect_None;
   }
-  if (!target || target->GetWindow() != this) return;
+  if (!target || !IsOwnWindow(*target)) return;
   const UI_NodePtr node(target);
   const Point local = node->WindowToLocal(event.position);
   if (event.type == OS_Event::Type::Drop) {
@@ -293,28 +280,35 @@ void UI_Window::DispatchDrag(const OS_Event& event) {
   session.acceptedEffect = answer & session.allowedEffects;
 }
 
-// The window itself.
+// Forgetting nodes that leave.
 
-void UI_Window::HandleWindowEvent(const OS_Event& event) {
-  switch (event.type) {
-  case OS_Event::Type::WindowCloseRequest:
-    if (mCloseHook) {
-      mCloseHook(*this);
-    } else {
-      Hide();
-    }
-    break;
-  case OS_Event::Type::WindowMoved:
-  case OS_Event::Type::WindowResized: SetScreenBounds(event.bounds); break;
-  case OS_Event::Type::WindowFocusIn: mIsActive = true; break;
-  case OS_Event::Type::WindowFocusOut:
-    mIsActive = false;
-    CancelToolTip();
-    break;
-  case OS_Event::Type::WindowExposed: InvalidateWindowRect(mRoot->GetLocalBounds()); break;
-  case OS_Event::Type::CaptureLost: mCapture = nullptr; break;
-  default: break;
+void WindowInputRouter::ForgetSubtree(UI_Node& node, UI_Window::Forget why) {
+  const UI_NodePtr keep(&node);
+  if (Contains(node, mCapture)) {
+    // Released without looking under the pointer again: the subtree is still
+    // in place and would be found. The next move brings the hover up to date.
+    mCapture = nullptr;
+    const HWND native = mState.GetLiveNative();
+    if (native && backend::GetBackend().GetCapture() == native) backend::GetBackend().ReleaseCapture();
   }
+  if (Contains(node, mFocus)) SetFocusedNode(nullptr);
+  for (UI_Node*& pressed : mPressed) {
+    if (!Contains(node, pressed)) continue;
+    pressed->SetFlag(UI_Node::kFlag_LeftDown | UI_Node::kFlag_RightDown | UI_Node::kFlag_MiddleDown, false);
+    pressed = nullptr;
+  }
+  if (Contains(node, mToolTip.GetNode())) mToolTip.Cancel();
+  if (Contains(node, mDragTarget)) {
+    const UI_NodePtr target(std::exchange(mDragTarget, nullptr));
+    target->DragLeaveSelf();
+  }
+  // A disabled node is still under the pointer: only leaving the tree or hiding ends hovering.
+  if (why == UI_Window::Forget::Disabled) return;
+  const auto first = std::find(mHover.begin(), mHover.end(), &node);
+  if (first == mHover.end()) return;
+  std::vector<UI_NodePtr> leaving(first, mHover.end());
+  mHover.erase(first, mHover.end());
+  for (auto it = leaving.rbegin(); it != leaving.rend(); ++it) (*it)->MouseLeaveSelf();
 }
 
 } // namespace kroui::ui

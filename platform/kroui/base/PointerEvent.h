@@ -1,6 +1,6 @@
 #pragma once
 
-#include <kroui/ui/ModifierKeys.h>
+#include <kroui/base/ModifierKeys.h>
 
 #include <krocore/geom/Geometry.h>
 

@@ -1,6 +1,6 @@
-#include <kroui/ui/KeyboardCode.h>
+#include <kroui/base/KeyboardCode.h>
 
-#include <kroui/ui/KeyTable.h>
+#include <kroui/base/KeyTable.h>
 
 namespace kroui::ui {
 

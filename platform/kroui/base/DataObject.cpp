@@ -1,4 +1,4 @@
-#include <kroui/ui/DataObject.h>
+#include <kroui/base/DataObject.h>
 
 namespace kroui::ui {
 

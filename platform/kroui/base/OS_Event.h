@@ -1,10 +1,10 @@
 #pragma once
 
 #include <kroui/Export.h>
+#include <kroui/base/DataObject.h>
+#include <kroui/base/KeyboardEvent.h>
+#include <kroui/base/PointerEvent.h>
 #include <kroui/os/NativeTypes.h>
-#include <kroui/ui/DataObject.h>
-#include <kroui/ui/KeyboardEvent.h>
-#include <kroui/ui/PointerEvent.h>
 
 #include <cstdint>
 #include <memory>

@@ -1,4 +1,4 @@
-#include <kroui/ui/KeyTable.h>
+#include <kroui/base/KeyTable.h>
 
 #include <array>
 #include <cstddef>
