@@ -7,10 +7,12 @@ using kroui::ui::KeyboardEvent;
 
 namespace {
 
-TEST(KeyboardEvent, ActionsKeepTheNumbersShortcutDispatchRelyOn) {
-  EXPECT_EQ(KeyboardEvent::kAction_KeyDown, 1);
-  EXPECT_EQ(KeyboardEvent::kAction_KeyUp, 2);
-  EXPECT_EQ(KeyboardEvent::kAction_CharacterInput, 3);
+// The numbers shortcut dispatch relies on.
+static_assert(KeyboardEvent::kAction_KeyDown == 1);
+static_assert(KeyboardEvent::kAction_KeyUp == 2);
+static_assert(KeyboardEvent::kAction_CharacterInput == 3);
+
+TEST(KeyboardEvent, AnEventMadeEmptyIsNoAction) {
   EXPECT_EQ(KeyboardEvent().GetAction(), KeyboardEvent::kAction_None);
 }
 
