@@ -1,6 +1,5 @@
-#include <zel/views/ViewSupport.h>
-
 #include <zel/views/ViewBase.h>
+#include <zel/views/ViewSupport.h>
 
 #include <krocore/debug/Assert.h>
 #include <kroui/ui/UI_Container.h>
@@ -9,20 +8,19 @@
 
 namespace ZEL::detail {
 
-void ReportNotInitialized(std::string_view name, const std::source_location& where) {
-  krocore::debug::ReportAssertion(std::string(name) + " has not been initialized", where.file_name(),
-                                  static_cast<int>(where.line()), where.function_name());
+void ReportNotInitialized(std::string_view name, const CallSite& site) {
+  krocore::debug::ReportAssertion(std::string(name) + " has not been initialized", site.file, site.line,
+                                  site.function);
 }
 
-krocore::IntrusivePtr<kroui::ui::UI_Container> ContainerOfParent(const std::weak_ptr<ViewBase>& parent,
-                                                                  std::string_view who,
-                                                                  const std::source_location& where) {
+krocore::IntrusivePtr<kroui::ui::UI_Container>
+FindContainerOfParent(const std::weak_ptr<ViewBase>& parent, std::string_view who, const CallSite& site) {
   const std::shared_ptr<ViewBase> parentView = parent.lock();
   const auto parentNode = parentView ? parentView->GetKRONode() : nullptr;
   auto* container = dynamic_cast<kroui::ui::UI_Container*>(parentNode.Get());
   if (!container) {
     krocore::debug::ReportAssertion(std::string(who) + ": the parent view has no node that can hold views",
-                                    where.file_name(), static_cast<int>(where.line()), where.function_name());
+                                    site.file, site.line, site.function);
   }
   return krocore::IntrusivePtr<kroui::ui::UI_Container>(container);
 }
