@@ -36,3 +36,7 @@
 #include <zel/views/ScrollBar.h>
 #include <zel/views/ScrollBarMessages.h>
 #include <zel/views/PlatformView.h>
+#include <zel/views/Initializer.h>
+#include <zel/views/FrameworkStations.h>
+#include <zel/views/FrameworkConsoleCommands.h>
+#include <zel/views/CustomSettings.h>
