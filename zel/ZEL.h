@@ -40,3 +40,4 @@
 #include <zel/views/FrameworkStations.h>
 #include <zel/views/FrameworkConsoleCommands.h>
 #include <zel/views/CustomSettings.h>
+#include <zel/views/Bitmap.h>

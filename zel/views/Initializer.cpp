@@ -4,6 +4,7 @@
 #include <zel/appearance/Cursor.h>
 #include <zel/appearance/ThemeResources.h>
 #include <zel/commands/SyntheticCommand.h>
+#include <zel/views/Bitmap.h>
 #include <zel/views/CustomSettings.h>
 #include <zel/views/FrameworkConsoleCommands.h>
 #include <zel/views/FrameworkStations.h>
@@ -16,6 +17,7 @@
 #include <kroui/base/DragAndDropDataTypes.h>
 #include <kroui/base/DragCursorSupport.h>
 #include <kroui/skins/SkinManager.h>
+#include <kroui/theme/SkinVersionChange.h>
 #include <kroui/theme/Theme.h>
 #include <kroui/ui/PopupMenuSettings.h>
 #include <kroui/ui/ToolTipManager.h>
@@ -24,6 +26,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <utility>
 
 namespace ZEL {
 namespace {
@@ -40,6 +43,8 @@ struct PlatformState {
   bool hasDragCursors = true;
   bool isCheckStyleOn = false;
   std::optional<CursorInitializer> cursors;
+  kroui::ui::SkinVersionChangedFunction skinVersionChanged;
+  detail::StartupSkinInfo skin;
 };
 
 PlatformState& Saved() {
@@ -73,10 +78,19 @@ void StartTheme() {
   kroui::ui::SetDefaultCursorSupport(false);
 }
 
+void AskSkinManager() {
+  using kroui::skins::core::SkinManager;
+  Saved().skin = {SkinManager::GetSkinVersion(), SkinManager::IsLegacyTestingAllowed(),
+                  SkinManager::GetRegisteredSkinSets(), SkinManager::RequiresLegacyTheme()};
+}
+
 void StartResources() {
   kroui::utility::SetResourceManager(
       std::make_unique<kroui::utility::OS_ResourceManager>(std::string(ThemeResources::kModule)));
   Saved().cursors.emplace();
+  AskSkinManager();
+  // Colour names resolve differently from one skin version to the next.
+  Saved().skinVersionChanged = kroui::ui::SetSkinVersionChangedFunction([](int) { ColorManager::FlushCache(); });
 }
 
 void RegisterDragAndDropDataTypes() {
@@ -100,7 +114,8 @@ void StopStations() {
 }
 
 void StopTheme() {
-  const PlatformState& saved = Saved();
+  PlatformState& saved = Saved();
+  kroui::ui::SetSkinVersionChangedFunction(std::move(saved.skinVersionChanged));
   kroui::ui::Theme::Get().Reset();
   kroui::skins::core::SkinManager::SetSkinVersion(saved.skinVersion);
   kroui::ui::SetDefaultCursorSupport(saved.hasDragCursors);
@@ -130,9 +145,11 @@ constexpr Step kStartUp[] = {
     {"menu check style", StartMenus},
     {"tooltip delay", StartToolTips},
     {"custom settings", [] { CustomSettings::Apply(); }},
+    {"bitmap cache", [] { InitBitmapCache(); }},
 };
 
 constexpr Step kShutDown[] = {
+    {"clean up bitmap cache", [] { CleanupBitmapCache(); }},
     {"dispose stations", StopStations},
     {"unregister console commands", [] { FrameworkConsoleCommands::Unregister(); }},
     {"terminate colours", [] { ColorManager::Terminate(); }},
@@ -155,6 +172,8 @@ void Run(std::span<const Step> steps) {
 namespace detail {
 
 const std::vector<std::string>& GetInitializerTrace() { return Trace(); }
+
+const StartupSkinInfo& GetStartupSkinInfo() { return Saved().skin; }
 
 std::vector<std::string_view> GetFrameworkDragAndDropDataTypes() {
   return {kroui::ui::DataObject::kFormat_Text, "application/x-zel-clip", "application/x-zel-panel",

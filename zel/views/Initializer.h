@@ -10,7 +10,7 @@ namespace ZEL {
 ///
 ///   foundation -> synthetic commands -> theme -> resources -> colours,
 ///   drag types, tool station -> stations -> console commands -> menus ->
-///   tooltips -> custom settings
+///   tooltips -> custom settings -> bitmap cache
 ///
 /// A second one made while the first lives is reported and does nothing,
 /// neither when made nor when destroyed.

@@ -1,5 +1,6 @@
 #include <zel/appearance/ColorManager.h>
 #include <zel/commands/SyntheticCommand.h>
+#include <zel/views/Bitmap.h>
 #include <zel/views/FrameworkConsoleCommands.h>
 #include <zel/views/FrameworkStations.h>
 #include <zel/views/Initializer.h>
@@ -12,6 +13,7 @@
 #include <kroui/base/DragAndDropDataTypes.h>
 #include <kroui/base/DragCursorSupport.h>
 #include <kroui/skins/SkinManager.h>
+#include <kroui/theme/SkinVersionChange.h>
 #include <kroui/theme/Theme.h>
 #include <kroui/ui/PopupMenuSettings.h>
 #include <kroui/ui/ToolTipManager.h>
@@ -34,10 +36,12 @@ struct PlatformSnapshot {
   bool isCheckStyleOn = kroui::ui::IsPopupMenuDefaultCheckStyleOn();
   int toolTipDelay = kroui::ui::ToolTipManager::Instance().GetInitialDelay();
   int skinVersion = kroui::skins::core::SkinManager::GetSkinVersion();
+  bool hasSkinFunction = kroui::ui::HasSkinVersionChangedFunction();
   std::string resourceModule = kroui::utility::GetResourceManager().GetModule();
   std::vector<std::string> dragTypes = kroui::ui::DragAndDropDataTypes::GetRegistered();
   bool hasToolStation = krocore::messaging::StationExists(ZEL::ToolMessaging::kStation_Tool);
   bool hasWorkspaceStation = krocore::messaging::StationExists(ZEL::kStation_Workspace);
+  bool hasBitmapCache = ZEL::IsBitmapCacheInitialized();
   bool hasColorCommand = ConsoleCommands::Instance().IsRegistered(ZEL::FrameworkConsoleCommands::kColors);
 
   bool operator==(const PlatformSnapshot&) const = default;
@@ -47,9 +51,9 @@ TEST(Initializer, StartsAndStopsInItsFixedOrder) {
   { const ZEL::Initializer framework; }
   const std::vector<std::string> expected{
       "foundation", "synthetic commands", "theme", "resources", "colours, drag types, tool station", "stations",
-      "console commands", "menu check style", "tooltip delay", "custom settings",
+      "console commands", "menu check style", "tooltip delay", "custom settings", "bitmap cache",
       // shut-down
-      "dispose stations", "unregister console commands", "terminate colours", "terminate theme",
+      "clean up bitmap cache", "dispose stations", "unregister console commands", "terminate colours", "terminate theme",
       "restore platform settings", "release resources", "terminate synthetic commands", "terminate foundation"};
   EXPECT_EQ(ZEL::detail::GetInitializerTrace(), expected);
 }
@@ -62,6 +66,7 @@ TEST(Initializer, BringsEveryPieceUpWhileItLives) {
   EXPECT_FALSE(kroui::ui::HasDefaultCursorSupport());
   EXPECT_TRUE(kroui::ui::IsPopupMenuDefaultCheckStyleOn());
   EXPECT_EQ(kroui::ui::ToolTipManager::Instance().GetInitialDelay(), 500);
+  EXPECT_TRUE(ZEL::IsBitmapCacheInitialized());
   for (std::string_view format : ZEL::detail::GetFrameworkDragAndDropDataTypes())
     EXPECT_TRUE(kroui::ui::DragAndDropDataTypes::IsRegistered(format)) << format;
   EXPECT_TRUE(krocore::messaging::StationExists(ZEL::ToolMessaging::kStation_Tool));
@@ -70,6 +75,17 @@ TEST(Initializer, BringsEveryPieceUpWhileItLives) {
   EXPECT_EQ(stations[1], ZEL::kStation_Workspace);
   EXPECT_EQ(stations[5], ZEL::kStation_ApplicationWindowMenu);
   for (const auto& station : stations) EXPECT_TRUE(krocore::messaging::StationExists(station)) << station.View();
+}
+
+TEST(Initializer, AsksTheSkinManagerAndFollowsSkinVersionChanges) {
+  using kroui::skins::core::SkinManager;
+  const ZEL::Initializer framework;
+  const auto& skin = ZEL::detail::GetStartupSkinInfo();
+  EXPECT_EQ(skin.version, SkinManager::kDefaultSkinVersion);
+  EXPECT_TRUE(skin.requiresLegacyTheme);
+  EXPECT_FALSE(skin.isLegacyTestingAllowed);
+  EXPECT_EQ(skin.skinSets, std::vector<std::string>{"Default"});
+  EXPECT_TRUE(kroui::ui::HasSkinVersionChangedFunction());
 }
 
 TEST(Initializer, LeavesThePlatformAsItFoundIt) {
