@@ -17,6 +17,7 @@
 #include <kroui/base/DragAndDropDataTypes.h>
 #include <kroui/base/DragCursorSupport.h>
 #include <kroui/skins/SkinManager.h>
+#include <kroui/theme/KeyframeThemeEditor.h>
 #include <kroui/theme/SkinVersionChange.h>
 #include <kroui/theme/Theme.h>
 #include <kroui/ui/PopupMenuSettings.h>
@@ -72,6 +73,7 @@ void SavePlatformState() {
 
 void StartTheme() {
   SavePlatformState();
+  kroui::ui::KeyframeThemeEditor::Create();
   // Start-up reports no errors: a theme file that cannot be read leaves its
   // colours at the theme's fallback, which is visible enough.
   static_cast<void>(ThemeResources::Install());
@@ -116,6 +118,7 @@ void StopStations() {
 void StopTheme() {
   PlatformState& saved = Saved();
   kroui::ui::SetSkinVersionChangedFunction(std::move(saved.skinVersionChanged));
+  kroui::ui::KeyframeThemeEditor::Destroy();
   kroui::ui::Theme::Get().Reset();
   kroui::skins::core::SkinManager::SetSkinVersion(saved.skinVersion);
   kroui::ui::SetDefaultCursorSupport(saved.hasDragCursors);

@@ -43,6 +43,13 @@ void ColorTrack::Add(const KeyFrame& frame) {
     mFrames.insert(at, frame);
 }
 
+bool ColorTrack::Remove(float t) {
+  const auto at = std::find_if(mFrames.begin(), mFrames.end(), [t](const KeyFrame& frame) { return frame.t == t; });
+  if (at == mFrames.end()) return false;
+  mFrames.erase(at);
+  return true;
+}
+
 KeyFrame ColorTrack::FrameAt(float brightness) const {
   if (mGeneral) return *mGeneral;
   if (brightness <= mFrames.front().t) return mFrames.front();

@@ -22,6 +22,8 @@ class KROUI_API ColorTrack {
 public:
   /// Adds a key frame; one at the same position as an earlier one replaces it.
   void Add(const KeyFrame& frame);
+  /// Removes the key frame at brightness `t`; false when there is none there.
+  bool Remove(float t);
 
   bool IsEmpty() const noexcept { return mFrames.empty() && !mGeneral; }
   bool IsFixed() const noexcept { return mGeneral.has_value(); }

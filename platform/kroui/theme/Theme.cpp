@@ -98,6 +98,28 @@ void Theme::Reset() {
   NotifyThemeChanged();
 }
 
+void Theme::SetKeyFrame(const KeyFrame& frame) {
+  std::lock_guard lock(mPaletteLock);
+  auto edited = std::make_shared<Palette>(*mPalette);
+  edited->tracks[frame.name].Add(frame);
+  mPalette = std::move(edited);
+}
+
+bool Theme::RemoveKeyFrame(ColorID id, float t) {
+  std::lock_guard lock(mPaletteLock);
+  const auto found = mPalette->tracks.find(id);
+  if (found == mPalette->tracks.end()) return false;
+  ColorTrack track = found->second;
+  if (!track.Remove(t)) return false;
+  auto edited = std::make_shared<Palette>(*mPalette);
+  if (track.IsEmpty())
+    edited->tracks.erase(id);
+  else
+    edited->tracks[id] = std::move(track);
+  mPalette = std::move(edited);
+  return true;
+}
+
 bool Theme::HasColor(ColorID id) const { return CurrentPalette()->tracks.count(id) != 0; }
 
 drawbot::ColorRGBA Theme::GetColor(ColorID id) const { return GetColorAt(id, GetBrightness()); }

@@ -47,6 +47,13 @@ public:
   /// Forgets every file and returns to the default brightness. Notifies.
   void Reset();
 
+  /// Sets one key frame of an ID, replacing one at the same brightness.
+  /// Does not notify: an editor makes several edits, then notifies once.
+  void SetKeyFrame(const KeyFrame& frame);
+  /// Removes the ID's key frame at brightness `t` (the ID loses its colour
+  /// with its last frame); false when there is none. Does not notify.
+  bool RemoveKeyFrame(ColorID id, float t);
+
   bool HasColor(ColorID id) const;
   /// The colour of an ID at the current brightness; opaque red for an ID no file gives.
   drawbot::ColorRGBA GetColor(ColorID id) const;

@@ -13,6 +13,7 @@
 #include <kroui/base/DragAndDropDataTypes.h>
 #include <kroui/base/DragCursorSupport.h>
 #include <kroui/skins/SkinManager.h>
+#include <kroui/theme/KeyframeThemeEditor.h>
 #include <kroui/theme/SkinVersionChange.h>
 #include <kroui/theme/Theme.h>
 #include <kroui/ui/PopupMenuSettings.h>
@@ -36,6 +37,7 @@ struct PlatformSnapshot {
   bool isCheckStyleOn = kroui::ui::IsPopupMenuDefaultCheckStyleOn();
   int toolTipDelay = kroui::ui::ToolTipManager::Instance().GetInitialDelay();
   int skinVersion = kroui::skins::core::SkinManager::GetSkinVersion();
+  bool hasThemeEditor = kroui::ui::KeyframeThemeEditor::Get() != nullptr;
   bool hasSkinFunction = kroui::ui::HasSkinVersionChangedFunction();
   std::string resourceModule = kroui::utility::GetResourceManager().GetModule();
   std::vector<std::string> dragTypes = kroui::ui::DragAndDropDataTypes::GetRegistered();
@@ -67,6 +69,7 @@ TEST(Initializer, BringsEveryPieceUpWhileItLives) {
   EXPECT_TRUE(kroui::ui::IsPopupMenuDefaultCheckStyleOn());
   EXPECT_EQ(kroui::ui::ToolTipManager::Instance().GetInitialDelay(), 500);
   EXPECT_TRUE(ZEL::IsBitmapCacheInitialized());
+  EXPECT_NE(kroui::ui::KeyframeThemeEditor::Get(), nullptr);
   for (std::string_view format : ZEL::detail::GetFrameworkDragAndDropDataTypes())
     EXPECT_TRUE(kroui::ui::DragAndDropDataTypes::IsRegistered(format)) << format;
   EXPECT_TRUE(krocore::messaging::StationExists(ZEL::ToolMessaging::kStation_Tool));
