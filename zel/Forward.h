@@ -19,12 +19,14 @@ class SyntheticCommand;
 
 // The application.
 class Application;
+class DocumentManager;
 
 // Views.
 class BackgroundView;
 class ControlView;
 class DC;
 class DCState;
+class FocusSaver;
 class OverlayView;
 class PlatformView;
 class ScrollBar;
@@ -32,6 +34,10 @@ class ScrollBarPositionChangedMessage;
 class ScrollBarPositionChangingMessage;
 class SubView;
 class ViewBase;
+class WinOSEventFilterer;
+namespace Windows {
+class ParentAndChildWindowDisabler;
+} // namespace Windows
 
 // Appearance.
 class ColorExpression;

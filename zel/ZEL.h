@@ -7,6 +7,7 @@
 #include <zel/Forward.h>
 #include <zel/Localization.h>
 #include <zel/application/Application.h>
+#include <zel/application/DocumentManager.h>
 #include <zel/application/MessageBox.h>
 #include <zel/commands/AnalyticsUtils.h>
 #include <zel/commands/Command.h>
@@ -41,3 +42,6 @@
 #include <zel/views/FrameworkConsoleCommands.h>
 #include <zel/views/CustomSettings.h>
 #include <zel/views/Bitmap.h>
+#include <zel/views/FocusSaver.h>
+#include <zel/views/ParentAndChildWindowDisabler.h>
+#include <zel/views/WinOSEventFilterer.h>

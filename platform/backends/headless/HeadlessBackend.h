@@ -84,6 +84,11 @@ public:
   void FocusNativeWindow(HWND window) override;
   HWND GetFocusedNativeWindow() const override;
   void PresentPixels(HWND window, const drawbot::Image& pixels, const Rect& changed) override;
+  void RestoreNativeWindow(HWND window) override;
+  bool IsNativeWindowMinimized(HWND window) const override;
+  bool IsNativeWindowEnabled(HWND window) const override;
+  HWND GetNativeWindowOwner(HWND window) const override;
+  std::vector<HWND> GetTopLevelWindows() const override;
   HWND CreateChildSurface(HWND parent, const Rect& bounds, bool gpuAccelerated) override;
   void DestroyChildSurface(HWND surface) override;
   bool SetChildSurfaceParent(HWND surface, HWND parent) override;

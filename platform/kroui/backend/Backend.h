@@ -72,6 +72,19 @@ public:
   /// Shows finished pixels: `pixels` covers the whole client area, `changed` is the part that differs.
   virtual void PresentPixels(HWND window, const drawbot::Image& pixels, const Rect& changed);
 
+  // Top-level windows as a window manager sees them: owners, minimised and
+  // enabled state, and the list of the process's windows (what a dialog
+  // disables while it runs).
+  /// Un-minimises the window and activates it, unless its style says not to.
+  virtual void RestoreNativeWindow(HWND window);
+  virtual bool IsNativeWindowMinimized(HWND window) const;
+  virtual bool IsNativeWindowEnabled(HWND window) const;
+  /// The window this one was made owned by (WindowDescription::owner), while
+  /// that one lives; null otherwise.
+  virtual HWND GetNativeWindowOwner(HWND window) const;
+  /// Every top-level window of the process, the top of the stack first.
+  virtual std::vector<HWND> GetTopLevelWindows() const;
+
   // Child surfaces: native windows inside a top-level window, for content
   // others draw (video, web). Bounds are in the parent's client coordinates;
   // a surface is made hidden, opaque and unclipped, and goes with its parent.

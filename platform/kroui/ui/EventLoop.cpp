@@ -116,7 +116,11 @@ backend::WaitResult EventLoop::GetNextEvent(OS_Event& event, std::optional<std::
 }
 
 void EventLoop::DispatchEvent(const OS_Event& event) {
-  if (mFilter && mFilter(ToMSG(event))) return;
+  if (mProcessFilter || mFilter) {
+    const MSG message = ToMSG(event);
+    if (mProcessFilter && mProcessFilter(message)) return;
+    if (mFilter && mFilter(message)) return;
+  }
   if (event.type == OS_Event::Type::Quit) {
     Quit();
     return;

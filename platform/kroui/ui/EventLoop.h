@@ -48,10 +48,16 @@ public:
   /// Waits up to `timeoutMs` (forever when empty) for the next event and
   /// gives it back undispatched, for loops that read events themselves.
   backend::WaitResult GetNextEvent(OS_Event& event, std::optional<std::int64_t> timeoutMs);
-  /// The message filter, then the event's window (or Quit, for a quit event).
+  /// The process filter and the message filter, then the event's window (or Quit, for a quit event).
   void DispatchEvent(const OS_Event& event);
   /// Sees every event, as a MSG, before its window does; true drops the event.
   void SetMessageFilter(MessageFilter filter) { mFilter = std::move(filter); }
+  /// The process's own filter, before the message filter: the layer above
+  /// plugs its chain of filters in here while the chain has any. It belongs
+  /// to the process, not to a backend or a test, so Reset keeps it; null unplugs it.
+  using ProcessMessageFilter = bool (*)(const MSG&);
+  void SetProcessMessageFilter(ProcessMessageFilter filter) noexcept { mProcessFilter = filter; }
+  ProcessMessageFilter GetProcessMessageFilter() const noexcept { return mProcessFilter; }
 
   /// The clock, in milliseconds.
   std::int64_t Now() const;
@@ -59,7 +65,7 @@ public:
   /// Paints every window that has an invalid region.
   void PaintWindows();
 
-  /// Drops timers, the quit request and the filter (the backend changed, or a test ends).
+  /// Drops timers, the quit request and the message filter (the backend changed, or a test ends).
   void Reset();
 
 private:
@@ -69,6 +75,7 @@ private:
 
   utility::TimerQueue mTimers;
   MessageFilter mFilter;
+  ProcessMessageFilter mProcessFilter = nullptr;
   bool mQuitRequested = false;
   int mRunDepth = 0;
 };

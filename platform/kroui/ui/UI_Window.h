@@ -80,6 +80,11 @@ public:
   const std::string& GetTitle() const noexcept;
   backend::WindowStyle GetStyle() const noexcept;
   void Minimize();
+  /// Un-minimises the window and activates it, unless its style says not to.
+  void Restore();
+  bool IsMinimized() const;
+  /// The window this one stays above and is disabled with, while it lives; null for none.
+  HWND GetOwner() const;
   /// Gives the window the keyboard focus.
   void Focus();
   /// Whether the window has the keyboard focus.

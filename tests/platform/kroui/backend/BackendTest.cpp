@@ -62,4 +62,16 @@ TEST_F(BackendTest, ASetBackendAnswersEveryEntryAndIsDestroyedWhenReplaced) {
   EXPECT_EQ(kroui::backend::GetBackend().GetName(), "headless");
 }
 
+TEST_F(BackendTest, ABackendWithoutAWindowSystemKnowsNoWindow) {
+  int destroyed = 0;
+  kroui::backend::SetBackend(std::make_unique<CountingBackend>(&destroyed));
+  Backend& backend = kroui::backend::GetBackend();
+  HWND any = reinterpret_cast<HWND>(std::uintptr_t{1});
+  backend.RestoreNativeWindow(any);
+  EXPECT_FALSE(backend.IsNativeWindowMinimized(any));
+  EXPECT_FALSE(backend.IsNativeWindowEnabled(any));
+  EXPECT_EQ(backend.GetNativeWindowOwner(any), nullptr);
+  EXPECT_TRUE(backend.GetTopLevelWindows().empty());
+}
+
 } // namespace

@@ -106,6 +106,44 @@ TEST_F(EventLoopTest, TheMessageFilterSeesEveryEventAsAMessageAndMayDropIt) {
   EXPECT_EQ(TakeLog(), (Strings{"node.Enter", "node.Move@5,6", "node.Up@5,6"})) << "the press was dropped";
 }
 
+// What the process filter saw, for the plain function it must be.
+std::vector<std::uint32_t> sProcessFilterSeen;
+
+bool DropKeysFilter(const MSG& message) {
+  sProcessFilterSeen.push_back(message.message);
+  return message.message == static_cast<std::uint32_t>(OS_Event::Type::KeyDown);
+}
+
+TEST_F(EventLoopTest, TheProcessFilterGoesFirstOutlivesResetsAndUnplugsWithNull) {
+  UI_Window& window = MakeWindow();
+  auto node = Add(window.GetRoot(), "node", {0, 0, 50, 50});
+  node->SetFocus();
+  sProcessFilterSeen.clear();
+  Loop().SetProcessMessageFilter(&DropKeysFilter);
+  Loop().Reset(); // a test ending, or the backend replaced
+  EXPECT_EQ(Loop().GetProcessMessageFilter(), &DropKeysFilter);
+  std::vector<std::uint32_t> seenAfter;
+  Loop().SetMessageFilter([&](const MSG& message) {
+    seenAfter.push_back(message.message);
+    return false;
+  });
+  TakeLog();
+  Headless().SendKeyDown(KeyboardCode(0x41));
+  Headless().SendKeyUp(KeyboardCode(0x41));
+  Pump();
+  const auto keyDown = static_cast<std::uint32_t>(OS_Event::Type::KeyDown);
+  const auto keyUp = static_cast<std::uint32_t>(OS_Event::Type::KeyUp);
+  EXPECT_EQ(sProcessFilterSeen, (std::vector<std::uint32_t>{keyDown, keyUp}));
+  EXPECT_EQ(seenAfter, (std::vector<std::uint32_t>{keyUp})) << "what the process filter dropped goes no further";
+  EXPECT_EQ(TakeLog(), (Strings{"node.KeyUp"}));
+
+  Loop().SetProcessMessageFilter(nullptr);
+  Headless().SendKeyDown(KeyboardCode(0x41));
+  Pump();
+  EXPECT_EQ(TakeLog(), (Strings{"node.KeyDown"}));
+  EXPECT_EQ(sProcessFilterSeen.size(), 2u);
+}
+
 TEST_F(EventLoopTest, AModalLoopReadsEventsItselfAndDispatchesThoseItDoesNotWant) {
   UI_Window& window = MakeWindow();
   auto node = Add(window.GetRoot(), "node", {0, 0, 50, 50});

@@ -73,6 +73,36 @@ TEST_F(UI_WindowTest, ADisabledWindowTakesNoInput) {
   EXPECT_FALSE(TakeLog().empty());
 }
 
+TEST_F(UI_WindowTest, RestoringAMinimisedWindowActivatesItAndRepaintsItWhole) {
+  UI_Window& window = MakeWindow();
+  window.Minimize();
+  EXPECT_TRUE(window.IsMinimized());
+  EXPECT_EQ(Headless().GetFocusedNativeWindow(), nullptr);
+  window.PaintNow();
+  ASSERT_FALSE(window.NeedsPaint());
+  window.Restore();
+  EXPECT_FALSE(window.IsMinimized());
+  EXPECT_FALSE(Record(window).isMinimized);
+  EXPECT_EQ(Headless().GetFocusedNativeWindow(), window.GetNativeWindow());
+  ASSERT_EQ(window.GetInvalidRects().size(), 1u);
+  EXPECT_EQ(window.GetInvalidRects()[0], window.GetRoot().GetLocalBounds());
+}
+
+TEST_F(UI_WindowTest, AnOwnedWindowNamesItsOwnerWhileTheOwnerLives) {
+  auto owner = std::make_unique<UI_Window>(WindowDescription{"main", {0, 0, 50, 50}});
+  WindowDescription description{"dialog", {10, 10, 40, 40}};
+  description.owner = owner->GetNativeWindow();
+  UI_Window dialog(description);
+  EXPECT_EQ(dialog.GetOwner(), owner->GetNativeWindow());
+  EXPECT_EQ(owner->GetOwner(), nullptr);
+  owner.reset();
+  EXPECT_EQ(dialog.GetOwner(), nullptr) << "no stale handle";
+
+  kroui::backend::HeadlessBackend::Install();
+  EXPECT_FALSE(dialog.IsMinimized()) << "another backend's window is not asked about";
+  dialog.Restore();
+}
+
 TEST_F(UI_WindowTest, TheTreeOutlivesItsWindowWithoutATrace) {
   krocore::IntrusivePtr<UI_Container> root;
   kroui::testing::LogNodePtr node;
