@@ -3,15 +3,12 @@
 // writes the window it drew to a PNG file (the first argument, or gallery.png).
 #include "GalleryPanels.h"
 
-#include <zel/appearance/ColorManager.h>
-#include <zel/appearance/Cursor.h>
-#include <zel/appearance/ThemeResources.h>
 #include <zel/commands/ShortcutManager.h>
 #include <zel/views/BackgroundView.h>
+#include <zel/views/Initializer.h>
 #include <zel/views/ScrollBar.h>
 
 #include <backends/headless/HeadlessBackend.h>
-#include <kls/Foundation.h>
 #include <krocore/config/TopLevel.h>
 #include <kroui/ui/UI_Window.h>
 
@@ -53,9 +50,8 @@ std::shared_ptr<PanelType> AddPanel(const std::shared_ptr<ZEL::BackgroundView>& 
 
 int RunGallery(const std::filesystem::path& output) {
   auto& headless = kroui::backend::HeadlessBackend::Install();
-  if (!ZEL::ThemeResources::Install()) return 1;
-  ZEL::ColorManager::Initialize();
-  ZEL::CursorInitializer cursors;
+  // Outlives every view below: it stops the framework last.
+  const ZEL::Initializer framework;
   ZEL::ShortcutManager::Initialize();
   DeclareSampleCommands();
 
@@ -89,16 +85,12 @@ int RunGallery(const std::filesystem::path& output) {
   background.reset();
   window.reset();
   ZEL::ShortcutManager::Finalize();
-  ZEL::ColorManager::Terminate();
   return written ? 0 : 1;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-  KLS::Foundation::Initialize();
   krocore::config::SetClientName("ZEL Gallery");
-  const int result = RunGallery(argc > 1 ? argv[1] : "gallery.png");
-  KLS::Foundation::Terminate();
-  return result;
+  return RunGallery(argc > 1 ? argv[1] : "gallery.png");
 }
