@@ -25,6 +25,8 @@ class BackgroundView;
 class ControlView;
 class DC;
 class DCState;
+class ModalControlInterface;
+class ModalEventLoopDriver;
 class OverlayView;
 class PlatformView;
 class ScrollBar;
