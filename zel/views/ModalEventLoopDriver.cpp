@@ -145,6 +145,8 @@ struct TrackingOutcome {
 
 // The window, the modal flag and the capture, in that order, live only while
 // the session runs; they go in the reverse order before the control hears the end.
+// Windows also sends the tracking window a button down and up around the
+// capture; here the window has no procedure that would receive them.
 TrackingOutcome Track(ModalControlInterface& control) {
   kroui::utility::TrackingWindow window;
   if (!window.IsCreated()) return {};
