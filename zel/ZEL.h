@@ -28,6 +28,8 @@
 #include <zel/views/ControlView.h>
 #include <zel/views/DC.h>
 #include <zel/views/DCState.h>
+#include <zel/views/ModalControlInterface.h>
+#include <zel/views/ModalEventLoopDriver.h>
 #include <zel/views/StatusBar.h>
 #include <zel/views/StatusBarMessages.h>
 #include <zel/views/SubView.h>
