@@ -4,11 +4,14 @@
 #include <zel/appearance/ThemeChangedMessage.h>
 #include <zel/appearance/ThemeResources.h>
 
+#include <krocore/messaging/Listener.h>
+#include <krocore/messaging/Message.h>
 #include <krocore/messaging/Station.h>
 #include <krocore/resources/ModuleResources.h>
 #include <krocore/string/UTFConversion.h>
 #include <krocore/threads/MainThread.h>
 #include <kroui/theme/Theme.h>
+#include <kroui/ui/UI_Window.h>
 
 #include <cmath>
 #include <memory>
@@ -40,9 +43,28 @@ void OnThemeChanged() {
                                                  std::make_shared<ThemeChangedMessage>());
 }
 
+// Every window repaints after a theme change, so that no view keeps the
+// colours of the old theme, whether or not it listens to the change itself.
+// The message arrives on the main thread, where windows may be touched.
+class ThemeRepainter final : public krocore::messaging::Listener {
+public:
+  ThemeRepainter() { SubscribeTo(kStation_ThemeChanged); }
+
+  void ListenToMessage(const krocore::messaging::Message& message) override {
+    if (!message.Is<ThemeChangedMessage>()) return;
+    for (kroui::ui::UI_Window* window : kroui::ui::UI_Window::GetAllWindows()) window->GetRoot().Invalidate();
+  }
+};
+
+std::unique_ptr<ThemeRepainter>& Repainter() {
+  static std::unique_ptr<ThemeRepainter> sRepainter;
+  return sRepainter;
+}
+
 } // namespace
 
 void ColorManager::Initialize() {
+  Repainter() = std::make_unique<ThemeRepainter>();
   RegisterColors(ThemeResources::kModule, "zelcolors");
   RegisterColors(ThemeResources::kModule, "appcolors");
   ThemeChangedFunctions().push_back(kroui::ui::InstallThemeChangedFunction(&OnThemeChanged));
@@ -50,6 +72,7 @@ void ColorManager::Initialize() {
 
 void ColorManager::Terminate() {
   ThemeChangedFunctions().clear(); // each handle releases its function
+  Repainter().reset();
   FlushCache();
 }
 

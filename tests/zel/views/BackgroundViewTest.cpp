@@ -2,6 +2,7 @@
 #include "ViewTestSupport.h"
 
 #include <zel/views/BackgroundView.h>
+#include <zel/views/ScrollBar.h>
 
 #include <kroui/drawbot/RecordingDrawbot.h>
 
@@ -53,7 +54,8 @@ TEST_F(BackgroundViewTest, AFixedColourStaysThroughThemeChanges) {
   EXPECT_EQ(fills[0].color, (ColorRGBA{1.f, 128 / 255.f, 0.f, 1.f}));
 
   SetBrightness(0.2f);
-  EXPECT_FALSE(Repainted()) << "a fixed colour has nothing to follow";
+  Pump();
+  EXPECT_EQ(Paint().at(0).color, (ColorRGBA{1.f, 128 / 255.f, 0.f, 1.f})) << "a fixed colour has nothing to follow";
   ZEL::BackgroundView::Color color;
   ASSERT_TRUE(view->GetBackgroundColor(color));
   EXPECT_EQ(color, (ZEL::BackgroundView::Color{255, 128, 0}));
@@ -86,11 +88,29 @@ TEST_F(BackgroundViewTest, SettingOneKindOfColourDropsTheOther) {
   EXPECT_FALSE(view->GetBackgroundColorID(id));
   Pump();
   SetBrightness(0.3f);
-  EXPECT_FALSE(Repainted()) << "no longer listening to theme changes";
+  Pump();
+  EXPECT_EQ(Paint().at(0).color, (ColorRGBA{1 / 255.f, 2 / 255.f, 3 / 255.f, 1.f})) << "the ID no longer counts";
 
   view->SetBackgroundColorID(ColorID("colors.kls.text"));
   ZEL::BackgroundView::Color color;
   EXPECT_FALSE(view->GetBackgroundColor(color));
+}
+
+// A control that does not listen to the theme still repaints in the new
+// colours: the theme change repaints every window.
+TEST_F(BackgroundViewTest, AThemeChangeRepaintsEveryWindowWithItsControls) {
+  auto bar = std::make_shared<ZEL::ScrollBar>(root);
+  ASSERT_TRUE(bar->Create(root, {20, 100, 220, 115}, ZEL::ScrollBar::Orientation::Horizontal, 1));
+  SetBrightness(0.9f);
+  Pump();
+  const auto light = Paint();
+  ASSERT_FALSE(light.empty());
+
+  SetBrightness(0.1f);
+  EXPECT_TRUE(Repainted());
+  const auto dark = Paint();
+  ASSERT_EQ(dark.size(), light.size());
+  EXPECT_NE(dark.front().color, light.front().color) << "the bar's track follows the theme";
 }
 
 } // namespace
