@@ -14,7 +14,9 @@ if(_zel_libraries)
     FILES_MATCHING PATTERN "*.h" PATTERN "*Impl.h" EXCLUDE
     # The shortcut manager's private parts, held by ShortcutManagerImpl.h.
     PATTERN "ContextRegistry.h" EXCLUDE PATTERN "ShortcutDispatcher.h" EXCLUDE
-    PATTERN "ShortcutSetLibrary.h" EXCLUDE)
+    PATTERN "ShortcutSetLibrary.h" EXCLUDE
+    # The workspace's registry of window classes, behind WindowClasses.h.
+    PATTERN "WindowClassRegistry.h" EXCLUDE)
   install(DIRECTORY "${ZEL_GENERATED_INCLUDE_DIR}/" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
   install(EXPORT ZELTargets NAMESPACE zel:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/ZEL)
   file(WRITE "${PROJECT_BINARY_DIR}/ZELConfig.cmake.in"
