@@ -42,6 +42,14 @@ namespace Windows {
 class ParentAndChildWindowDisabler;
 } // namespace Windows
 
+// Workspace.
+class IProject;
+class SwitchableTabView;
+class WindowClassCallback;
+class WindowClassSortCallback;
+class WindowContextHandler;
+struct WindowInfo;
+
 // Appearance.
 class ColorExpression;
 class ColorManager;

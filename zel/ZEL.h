@@ -47,3 +47,10 @@
 #include <zel/views/FocusSaver.h>
 #include <zel/views/ParentAndChildWindowDisabler.h>
 #include <zel/views/WinOSEventFilterer.h>
+#include <zel/workspace/IProject.h>
+#include <zel/workspace/SwitchableTabView.h>
+#include <zel/workspace/WindowClassCallback.h>
+#include <zel/workspace/WindowClasses.h>
+#include <zel/workspace/WindowContextHandler.h>
+#include <zel/workspace/WindowContexts.h>
+#include <zel/workspace/WindowInfo.h>
