@@ -59,7 +59,8 @@ ZEL_API void AddWindow(const UTF8String& className, const unsigned int& windowID
 ZEL_API void AddWindow(const UTF8String& className, const unsigned int& windowID, const UTF8String& name,
                        std::weak_ptr<krocore::classref::UnknownBase> project,
                        std::weak_ptr<krocore::classref::UnknownBase> item, const unsigned int& commandID);
-/// With `unregisterCommand`, a synthetic command of the window is forgotten too.
+/// Removes every window `windowID`, of any tab view or none. With
+/// `unregisterCommand`, a synthetic command of the window is forgotten too.
 ZEL_API void RemoveWindow(const UTF8String& className, const unsigned int& windowID, bool unregisterCommand);
 /// Removes the window of context `contextID` in the tab view `viewID`.
 ZEL_API void RemoveWindow(const UTF8String& className, const unsigned int& viewID, const unsigned int& contextID,
