@@ -36,11 +36,15 @@ class ScrollBar;
 class ScrollBarPositionChangedMessage;
 class ScrollBarPositionChangingMessage;
 class SubView;
+class TopLevelWindow;
 class ViewBase;
 class WinOSEventFilterer;
 namespace Windows {
 class ParentAndChildWindowDisabler;
 } // namespace Windows
+
+// The workspace.
+class Workspace;
 
 // Appearance.
 class ColorExpression;
