@@ -36,6 +36,7 @@ class ScrollBar;
 class ScrollBarPositionChangedMessage;
 class ScrollBarPositionChangingMessage;
 class SubView;
+class TopLevelWindow;
 class ViewBase;
 class WinOSEventFilterer;
 namespace Windows {
@@ -49,6 +50,7 @@ class WindowClassCallback;
 class WindowClassSortCallback;
 class WindowContextHandler;
 struct WindowInfo;
+class Workspace;
 
 // Appearance.
 class ColorExpression;

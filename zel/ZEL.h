@@ -33,6 +33,7 @@
 #include <zel/views/StatusBar.h>
 #include <zel/views/StatusBarMessages.h>
 #include <zel/views/SubView.h>
+#include <zel/views/TopLevelWindow.h>
 #include <zel/views/ViewBase.h>
 #include <zel/appearance/Cursor.h>
 #include <zel/views/OverlayView.h>

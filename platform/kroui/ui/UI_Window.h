@@ -25,6 +25,7 @@ namespace kroui::ui {
 ///   OS_Event --> event hook (raw, first look)
 ///            --> pre-dispatch hook    (the framework's shortcut pre-dispatch)   true: done
 ///            --> focused node's KeyDownSelf / KeyUpSelf / CharacterInputSelf  true: done
+///            --> the same hook of each parent in turn, up to the root          true: done
 ///            --> post-dispatch hook   (the framework's shortcut dispatch)       true: done
 ///            --> Tab / Shift+Tab moves the focus along the chain
 ///

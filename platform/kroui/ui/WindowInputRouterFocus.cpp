@@ -75,13 +75,20 @@ void WindowInputRouter::DispatchKeyboard(const OS_Event& event) {
   }
 }
 
+// The focused node first, then each parent up to the root, while they decline.
 bool WindowInputRouter::DeliverKey(const KeyboardEvent& event) {
   if (!mFocus || !mFocus->IsVisible() || !mFocus->IsEnabledThroughAncestors()) return false;
-  const UI_NodePtr node(mFocus);
+  for (UI_NodePtr node(mFocus); node; node = UI_NodePtr(node->GetParent())) {
+    if (OfferKey(*node, event)) return true;
+  }
+  return false;
+}
+
+bool WindowInputRouter::OfferKey(UI_Node& node, const KeyboardEvent& event) {
   switch (event.GetAction()) {
-  case KeyboardEvent::kAction_KeyDown: return node->KeyDownSelf(event);
-  case KeyboardEvent::kAction_KeyUp: return node->KeyUpSelf(event);
-  case KeyboardEvent::kAction_CharacterInput: return node->CharacterInputSelf(event);
+  case KeyboardEvent::kAction_KeyDown: return node.KeyDownSelf(event);
+  case KeyboardEvent::kAction_KeyUp: return node.KeyUpSelf(event);
+  case KeyboardEvent::kAction_CharacterInput: return node.CharacterInputSelf(event);
   default: return false;
   }
 }

@@ -72,6 +72,7 @@ private:
   // Keyboard (WindowInputRouterFocus.cpp).
   void DispatchKeyboard(const OS_Event& event);
   bool DeliverKey(const KeyboardEvent& event);
+  static bool OfferKey(UI_Node& node, const KeyboardEvent& event);
   UI_Node* FocusScopeOf(UI_Node* node) const;
   static void CollectFocusChain(UI_Node& scope, std::vector<UI_Node*>& chain);
 

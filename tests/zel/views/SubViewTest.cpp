@@ -176,9 +176,20 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(SubViewTree, KeysReachOnlyTheFocusedView) {
   ASSERT_TRUE(b->SetFocus());
+  b->consumesKeys = true;
   TakeLog();
   Do([](auto& h) { h.TypeKey(kroui::ui::kKey_A, ModifierKeys::FromValue(kroui::ui::kModKey_Shift)); });
   EXPECT_EQ(TakeLog(), (Strings{"b.KeyDown:65'A'", "b.Char:A", "b.KeyUp:65"}));
+}
+
+TEST_F(SubViewTree, KeysTheFocusedViewDeclinesClimbUntilAViewTakesThem) {
+  ASSERT_TRUE(b->SetFocus());
+  a->consumesKeys = true;
+  TakeLog();
+  Do([](auto& h) { h.TypeKey(kroui::ui::kKey_A, ModifierKeys::FromValue(kroui::ui::kModKey_Shift)); });
+  EXPECT_EQ(TakeLog(), (Strings{"b.KeyDown:65'A'", "a.KeyDown:65'A'", "b.Char:A", "a.Char:A", "b.KeyUp:65",
+                                "a.KeyUp:65"}))
+      << "a takes each, so root never hears them";
 }
 
 TEST_F(SubViewTree, FocusMakesTheViewTheCommandTargetAndItsChainGoesOnDuty) {
@@ -201,7 +212,9 @@ TEST_F(SubViewTree, TabSkipsViewsThatDoNotWantTheFocus) {
   TakeLog();
   Do([](auto& h) { h.TypeKey(kroui::ui::kKey_Tab); });
   EXPECT_TRUE(a->HasFocus());
-  EXPECT_EQ(TakeLog(), (Strings{"c.KeyDown:9", "c.KillFocus", "c:off", "a:on", "a.SetFocus", "a.KeyUp:9"}));
+  EXPECT_EQ(TakeLog(), (Strings{"c.KeyDown:9", "root.KeyDown:9", "c.KillFocus", "c:off", "a:on", "a.SetFocus",
+                                "a.KeyUp:9", "root.KeyUp:9"}))
+      << "Tab moves the focus only after the focused view and its super-views declined it";
 }
 
 // Timers, tooltips, drag and drop.

@@ -141,16 +141,18 @@ struct RoadCase {
   const char* label;
   bool preTakes;
   bool nodeTakes;
+  bool parentTakes;
   bool postTakes;
   Strings expected;
 };
 
 class UI_WindowKeyRoad : public UI_WindowFocus, public testing::WithParamInterface<RoadCase> {};
 
-TEST_P(UI_WindowKeyRoad, TheWindowHooksSurroundTheFocusedNode) {
+TEST_P(UI_WindowKeyRoad, TheWindowHooksSurroundTheFocusedNodeAndItsParents) {
   const RoadCase& c = GetParam();
   two->SetFocus();
   two->consumesKeys = c.nodeTakes;
+  panel->consumesKeys = c.parentTakes;
   window->SetKeyboardPreDispatchHook([&](const KeyboardEvent& e) {
     if (e.GetAction() == KeyboardEvent::kAction_KeyDown) log.push_back("pre");
     return c.preTakes;
@@ -166,14 +168,17 @@ TEST_P(UI_WindowKeyRoad, TheWindowHooksSurroundTheFocusedNode) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Takers, UI_WindowKeyRoad,
-                         testing::Values(RoadCase{"PreDispatchTakesIt", true, true, true, {"pre"}},
-                                         RoadCase{"TheNodeTakesIt", false, true, true, {"pre", "two.KeyDown"}},
-                                         RoadCase{"PostDispatchGetsWhatTheNodeDeclines", false, false, true,
-                                                  {"pre", "two.KeyDown", "post"}}),
+                         testing::Values(RoadCase{"PreDispatchTakesIt", true, true, true, true, {"pre"}},
+                                         RoadCase{"TheNodeTakesIt", false, true, true, true, {"pre", "two.KeyDown"}},
+                                         RoadCase{"TheParentTakesWhatTheNodeDeclines", false, false, true, true,
+                                                  {"pre", "two.KeyDown", "panel.KeyDown"}},
+                                         RoadCase{"PostDispatchGetsWhatTheChainDeclines", false, false, false, true,
+                                                  {"pre", "two.KeyDown", "panel.KeyDown", "post"}}),
                          [](const auto& row) { return std::string(row.param.label); });
 
 TEST_F(UI_WindowFocus, TypingAKeySendsDownCharacterAndUpWithTheModifiersHeld) {
   two->SetFocus();
+  two->consumesKeys = true; // so that the parent's share of the road stays out of the log
   TakeLog();
   ModifierKeys seenWhileDown;
   ModifierKeys seenAfterUp;
@@ -199,6 +204,7 @@ TEST_F(UI_WindowFocus, KeysGoToTheFocusedWindowOnly) {
   LogNodePtr field = Add(other.GetRoot(), "field", {0, 0, 50, 20});
   field->SetFocus();
   two->SetFocus();
+  two->consumesKeys = true;
   TakeLog();
   EXPECT_EQ(Headless().GetFocusedNativeWindow(), other.GetNativeWindow()) << "shown last, so active";
   Headless().TypeText(U"ab");

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace kroworkspace::workspace {
+
+class TopLevelWindow;
+class TopLevelWindowImpl;
+
+} // namespace kroworkspace::workspace
