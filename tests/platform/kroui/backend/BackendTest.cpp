@@ -72,6 +72,8 @@ TEST_F(BackendTest, ABackendWithoutAWindowSystemKnowsNoWindow) {
   EXPECT_FALSE(backend.IsNativeWindowEnabled(any));
   EXPECT_EQ(backend.GetNativeWindowOwner(any), nullptr);
   EXPECT_TRUE(backend.GetTopLevelWindows().empty());
+  kroui::backend::SetBackend(nullptr); // while `destroyed` lives
+  EXPECT_EQ(destroyed, 1);
 }
 
 } // namespace
