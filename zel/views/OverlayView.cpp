@@ -1,10 +1,10 @@
 #include <zel/views/OverlayView.h>
-
 #include <zel/views/OverlayViewImpl.h>
 #include <zel/views/ViewSupport.h>
 
 #include <krocore/debug/Assert.h>
 #include <kroui/ui/UI_Window.h>
+#include <kroworkspace/workspace/TopLevelWindow.h>
 
 #include <algorithm>
 
@@ -14,7 +14,13 @@ OverlayView::OverlayView(const krocore::FlexWeakPtr<Commander>& superCommander) 
 
 OverlayView::~OverlayView() = default;
 
-bool OverlayView::Create(const std::weak_ptr<ViewBase>& parent, const Rect& bounds, kroui::ui::UI_Window* window) {
+bool OverlayView::Create(const std::weak_ptr<ViewBase>& parent, const Rect& bounds,
+                         kroworkspace::workspace::TopLevelWindow* window) {
+  return Create(parent, bounds, window ? &window->GetWindow() : nullptr);
+}
+
+bool OverlayView::Create(const std::weak_ptr<ViewBase>& parent, const Rect& bounds,
+                         kroui::ui::UI_Window* window) {
   if (!KROCORE_ASSERT(window && window->IsCreated(), "OverlayView: no window to stand above")) return false;
   std::weak_ptr<OverlayView> self = WeakAs<OverlayView>();
   if (!KROCORE_ASSERT(!self.expired(), "OverlayView: a view must be held by a std::shared_ptr to be created"))

@@ -6,6 +6,7 @@
 
 #include <kroui/Forward.h>
 #include <kroui/drawbot/DrawTypes.h>
+#include <kroworkspace/Forward.h>
 
 #include <memory>
 
@@ -32,8 +33,11 @@ public:
   explicit OverlayView(const krocore::FlexWeakPtr<Commander>& superCommander);
   ~OverlayView() override;
 
-  /// `bounds` in the parent view's coordinates; `window` is the one the layer
-  /// stands above (the workspace's top-level window, once it has one).
+  /// `bounds` in the parent view's coordinates; `window` is the workspace's
+  /// top-level window the layer stands above.
+  bool Create(const std::weak_ptr<ViewBase>& parent, const Rect& bounds,
+              kroworkspace::workspace::TopLevelWindow* window);
+  /// The same over a platform window that is not the workspace's.
   bool Create(const std::weak_ptr<ViewBase>& parent, const Rect& bounds, kroui::ui::UI_Window* window);
   /// Takes the layer away, after DestroySelf.
   void Destroy();

@@ -3,6 +3,7 @@
 #include <zel/views/OverlayView.h>
 
 #include <krocore/debug/Assert.h>
+#include <kroworkspace/workspace/TopLevelWindow.h>
 
 #include <gtest/gtest.h>
 
@@ -110,6 +111,19 @@ TEST_F(OverlayViewTest, DestroyTakesTheLayerAwayAndLeavesANeutralHandle) {
   ASSERT_EQ(recorder.Count(), 2u);
   EXPECT_EQ(recorder.Reports()[0].message, "OverlayViewImpl has not been initialized");
   EXPECT_EQ(recorder.Reports()[0].operation, "ZEL::OverlayView::SetOpacity");
+}
+
+TEST_F(OverlayViewTest, StandsAboveAWorkspaceWindowThatOwnsItsLayer) {
+  kroworkspace::workspace::TopLevelWindow workspaceWindow(kroui::backend::Rect{300, 300, 700, 600});
+  auto over = std::make_shared<HalvesOverlay>(panel, log);
+  ASSERT_TRUE(over->Create(panel, {10, 10, 60, 40}, &workspaceWindow));
+  EXPECT_EQ(over->GetLayerWindow()->GetOwner(), workspaceWindow.GetWindow().GetNativeWindow());
+  over.reset();
+
+  krocore::debug::ScopedAssertionRecorder recorder;
+  auto none = std::make_shared<HalvesOverlay>(panel, log);
+  EXPECT_FALSE(none->Create(panel, {10, 10, 60, 40}, static_cast<kroworkspace::workspace::TopLevelWindow*>(nullptr)));
+  EXPECT_TRUE(recorder.Contains("OverlayView: no window to stand above"));
 }
 
 } // namespace
