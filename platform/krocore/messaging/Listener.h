@@ -1,11 +1,10 @@
 #pragma once
 
 #include <krocore/Export.h>
+#include <krocore/Forward.h>
 #include <krocore/utility/ImmutableString.h>
 
 namespace krocore::messaging {
-
-class Message;
 
 /// Something that hears the messages broadcast on the stations it subscribes
 /// to. Subscriptions belong to the station registry, not to the listener;

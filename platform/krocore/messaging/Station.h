@@ -1,6 +1,7 @@
 #pragma once
 
 #include <krocore/Export.h>
+#include <krocore/Forward.h>
 #include <krocore/utility/ImmutableString.h>
 
 #include <cstddef>
@@ -8,8 +9,6 @@
 #include <utility>
 
 namespace krocore::messaging {
-
-class Message;
 
 // A station is a name on which messages are broadcast; listeners subscribe to
 // the name. Delivery is always on the main thread:

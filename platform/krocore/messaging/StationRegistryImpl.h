@@ -1,5 +1,6 @@
 #pragma once
 
+#include <krocore/Forward.h>
 #include <krocore/utility/ImmutableString.h>
 
 #include <atomic>
@@ -10,9 +11,6 @@
 #include <vector>
 
 namespace krocore::messaging {
-
-class Listener;
-class Message;
 
 /// The process's stations and their listeners, behind Station.h and Listener.h.
 ///

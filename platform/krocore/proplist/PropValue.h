@@ -1,6 +1,7 @@
 #pragma once
 
 #include <krocore/Export.h>
+#include <krocore/Forward.h>
 
 #include <cstdint>
 #include <memory>
@@ -10,8 +11,6 @@
 #include <vector>
 
 namespace krocore::proplist {
-
-class PropList;
 
 /// One typed value of a property list: a boolean, a 64-bit integer, a real,
 /// a UTF-8 string, a nested list or an array of values.
