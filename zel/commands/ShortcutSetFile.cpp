@@ -6,6 +6,8 @@
 #include <be/store/XMLPropertyStore.h>
 
 #include <algorithm>
+#include <array>
+#include <optional>
 
 namespace ZEL {
 namespace {
@@ -21,6 +23,34 @@ constexpr std::string_view kVirtualKeyKey = "virtualkey";
 constexpr std::string_view kAltKey = "modifier.alt";
 constexpr std::string_view kShiftKey = "modifier.shift";
 constexpr std::string_view kControlKey = "modifier.ctrl";
+
+// Which key a set's "modifier.ctrl" bit means on the system that made it.
+// Key codes are the same everywhere, so a set reads wherever this matches.
+enum class ModifierConvention { Control, Command };
+
+struct PlatformConvention {
+  std::string_view platform;
+  ModifierConvention convention;
+};
+
+// Every system a set may come from; a name not listed here is never read.
+constexpr std::array kPlatformConventions{
+    PlatformConvention{"windows", ModifierConvention::Control},
+    PlatformConvention{"linux", ModifierConvention::Control},
+    PlatformConvention{"mac", ModifierConvention::Command},
+};
+
+std::optional<ModifierConvention> ConventionOf(std::string_view platform) {
+  for (const auto& row : kPlatformConventions)
+    if (row.platform == platform) return row.convention;
+  return std::nullopt;
+}
+
+// A set made on `platform` means here what it meant there.
+bool ReadsHere(std::string_view platform) {
+  const auto theirs = ConventionOf(platform);
+  return theirs && theirs == ConventionOf(ShortcutSetFile::GetPlatformName());
+}
 
 void WriteItem(BE::IPropertyStoreWriter& writer, std::uint32_t index, const std::string& command, const KeySpec& key) {
   writer.OpenGroup(BE::CreateKeyWithIndex(kItemKey, index));
@@ -111,7 +141,7 @@ ShortcutSetFile::ReadSet ShortcutSetFile::ReadWith(const ShortcutManager& manage
                                                                                : Failure::Invalid;
     return set;
   }
-  if (reader->ReadString(kPlatformKey).value_or("") != GetPlatformName()) {
+  if (!ReadsHere(reader->ReadString(kPlatformKey).value_or(""))) {
     set.failure = Failure::OtherPlatform;
     return set;
   }

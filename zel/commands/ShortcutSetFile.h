@@ -17,7 +17,7 @@ class ShortcutManager;
 /// One shortcut set file (".kys"): the shortcuts of every command context,
 /// in the host's XML property store:
 ///
-///   "platform"                 the OS the set was made on
+///   "platform"                 the OS the set was made on ("windows", "linux", "mac")
 ///   "context.<context name>"   a group per context
 ///     "itemcount"              how many items follow
 ///     "item.<0..n-1>"          one group per shortcut
@@ -27,7 +27,8 @@ class ShortcutManager;
 /// and the manager applies it only when the whole file was good.
 class ZEL_API ShortcutSetFile {
 public:
-  /// The value of "platform" this build writes and accepts.
+  /// The value of "platform" this build writes. Sets from any system with
+  /// the same modifier convention (Control, or Command in its place) are read.
   static const char* GetPlatformName() noexcept;
 
   enum class Failure { None, Invalid, IncompatibleVersion, OtherPlatform };

@@ -11,6 +11,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 
 #if defined(__linux__)
@@ -159,6 +160,69 @@ TEST_F(ShortcutSetFileTest, EachFailureNamesTheFileAndChangesNothing) {
                            "incompatible with this version of ZEL Gallery");
   EXPECT_EQ(mHeadless->GetShownMessageBoxes().size(), 3u);
   EXPECT_EQ(Snapshot(), before);
+}
+
+// A set of one Ctrl shortcut for edit.copy, saved as made on `platform`.
+void WriteCopySet(BE::IPropertyStoreWriter& w, const char* platform, std::uint32_t virtualKey) {
+  if (platform != nullptr) w.WriteString("platform", platform);
+  w.OpenGroup("context.Application");
+  w.OpenGroup(BE::CreateKeyWithIndex("item", 0));
+  w.WriteString("commandname", "edit.copy");
+  w.WriteUnsigned("virtualkey", virtualKey);
+  w.WriteBool("modifier.alt", false);
+  w.WriteBool("modifier.shift", false);
+  w.WriteBool("modifier.ctrl", true);
+  w.CloseGroup();
+  w.WriteUnsigned("itemcount", 1);
+  w.CloseGroup();
+}
+
+TEST_F(ShortcutSetFileTest, SetsFromSystemsWithTheControlConventionReadEitherWay) {
+  auto& app = mManager->GetGlobalContext();
+  app.DeclareCommand("edit.copy", 57634, CommandKind::Menu, "Copy", {}, false);
+  app.SetCommandShortcuts("edit.copy", {KeySpec(0x43, true, false, false)});
+  std::uint32_t virtualKey = 0x58;
+  for (const char* platform : {"windows", "linux"}) {
+    SCOPED_TRACE(platform);
+    const auto path = mFolder / "user" / (std::string(platform) + ".kys");
+    WriteStore(path, [&](BE::IPropertyStoreWriter& w) { WriteCopySet(w, platform, virtualKey); });
+    ASSERT_TRUE(mManager->ReadSet(path));
+    EXPECT_EQ(app.GetCommandNameMap().at("edit.copy").GetShortcuts(),
+              std::vector<KeySpec>{KeySpec(virtualKey, true, false, false)});
+    ++virtualKey; // each read must really replace the shortcut
+  }
+  EXPECT_TRUE(mHeadless->GetShownMessageBoxes().empty());
+
+  const auto saved = mFolder / "user" / "Saved.kys";
+  ASSERT_TRUE(mManager->SaveSet(saved));
+  auto reader =
+      krocore::classref::CreateClassInstanceRef<BE::IPropertyStoreReader>(BE::kXMLFileReaderClassID);
+  ASSERT_TRUE(reader->ReadFile(saved));
+  EXPECT_EQ(reader->ReadString("platform").value_or(""), ZEL::ShortcutSetFile::GetPlatformName())
+      << "a set is saved under the running system's own name";
+}
+
+TEST_F(ShortcutSetFileTest, SetsOfAnotherOrUnknownConventionAreRefusedAndChangeNothing) {
+  auto& app = mManager->GetGlobalContext();
+  app.DeclareCommand("edit.copy", 57634, CommandKind::Menu, "Copy", {}, false);
+  app.SetCommandShortcuts("edit.copy", {KeySpec(0x43, true, false, false)});
+  const auto before = Snapshot();
+  const std::pair<const char*, const char*> refused[] = {{"mac", "Mac.kys"},
+                                                         {"plan9", "Plan9.kys"},
+                                                         {"Windows", "Case.kys"},
+                                                         {"", "Empty.kys"},
+                                                         {nullptr, "None.kys"}};
+  for (const auto& [platform, file] : refused) {
+    SCOPED_TRACE(file);
+    const auto path = mFolder / "user" / file;
+    WriteStore(path, [&](BE::IPropertyStoreWriter& w) { WriteCopySet(w, platform, 0x58); });
+    EXPECT_FALSE(mManager->ReadSet(path));
+    EXPECT_EQ(LastMessage(),
+              "The shortcut key file " + std::string(file) +
+                  " was created on another platform and is incompatible with this version of ZEL Gallery");
+    EXPECT_EQ(Snapshot(), before);
+  }
+  EXPECT_EQ(mHeadless->GetShownMessageBoxes().size(), std::size(refused));
 }
 
 TEST_F(ShortcutSetFileTest, HostileCountsAreInvalidNotObeyed) {
