@@ -1,9 +1,10 @@
 // The XML text of a property store, both ways. The bytes may come from a
 // damaged or hostile file: the size is bounded before parsing, pugixml parses
-// without recursion and never expands DTD entities (a reference stays
-// literal text), group nesting is bounded, the walk over the elements keeps
-// its place in a fixed array rather than on the call stack, and nothing is
-// sized from a number written in the file.
+// without recursion, a document with a DTD is refused before any entry is
+// read (the writer never makes one, and its entities are never expanded),
+// group nesting is bounded, the walk over the elements keeps its place in a
+// fixed array rather than on the call stack, and nothing is sized from a
+// number written in the file.
 #include <be/store/StoreTextImpl.h>
 #include <be/store/XMLFormatImpl.h>
 #include <be/store/XMLPropertyStore.h>
@@ -249,6 +250,13 @@ private:
   std::string mError;
 };
 
+// A DOCTYPE stands at the top level, though not necessarily first there.
+pugi::xml_node FindDoctype(const pugi::xml_document& document) {
+  for (pugi::xml_node node = document.first_child(); node; node = node.next_sibling())
+    if (node.type() == pugi::node_doctype) return node;
+  return {};
+}
+
 StoreReadResult ReadVersion(pugi::xml_node top, std::uint32_t& version) {
   const pugi::xml_attribute attribute = top.attribute(kVersionAttribute);
   const std::string_view text = attribute.value();
@@ -272,12 +280,18 @@ StoreReadResult ParseXML(std::string& bytes, PropertyTree& tree, std::uint32_t& 
   version = 0;
   if (bytes.size() > kMaxPropertyStoreFileBytes) return NotAStore("is too large to be a property store");
   pugi::xml_document document;
-  // Comments, processing instructions, CDATA and the DOCTYPE are skipped, not kept.
+  // Comments, processing instructions and CDATA are skipped, not kept. The
+  // DOCTYPE is kept only as raw text, so that it can be seen and refused;
+  // its entities are never declared to the parser, let alone expanded.
   const pugi::xml_parse_result parsed = document.load_buffer_inplace(
-      bytes.data(), bytes.size(), pugi::parse_minimal | pugi::parse_escapes, pugi::encoding_utf8);
+      bytes.data(), bytes.size(), pugi::parse_minimal | pugi::parse_escapes | pugi::parse_doctype,
+      pugi::encoding_utf8);
   if (!parsed)
     return NotAStore("is not XML: " + std::string(parsed.description()) + " at byte " +
                      std::to_string(parsed.offset));
+  if (const pugi::xml_node doctype = FindDoctype(document))
+    return NotAStore("has a document type declaration (DTD)" + At(doctype) +
+                     ", which a property store never holds");
   const pugi::xml_node top = document.first_child();
   if (top.type() != pugi::node_element || top.next_sibling() || std::strcmp(top.name(), kTopElement) != 0)
     return NotAStore("is XML, but not a property store");

@@ -237,6 +237,36 @@ TEST_F(ShortcutSetFileTest, HostileCountsAreInvalidNotObeyed) {
   EXPECT_EQ(LastMessage(), "The shortcut key file \"Huge.kys\" is invalid!");
 }
 
+TEST_F(ShortcutSetFileTest, AFileWithADtdIsInvalidAndTheShortcutsInForceStay) {
+  auto& app = mManager->GetGlobalContext();
+  app.DeclareCommand("edit.copy", 57634, CommandKind::Menu, "Copy", {}, false);
+  app.DeclareCommand("edit.paste", 57637, CommandKind::Menu, "Paste", {}, false);
+  app.SetCommandShortcuts("edit.copy", {KeySpec(0x43, true, false, false)});
+  const auto commandOf = [&](const KeySpec& key) {
+    std::int32_t id = -1;
+    return app.GetCommandIDFromKeySpec(key, ZEL::CommandKeyMapID::Standard, id) ? id : -1;
+  };
+  ASSERT_EQ(commandOf(KeySpec(0x43, true, false, false)), 57634);
+
+  // Sound apart from its DTD: read, it would bind Ctrl+V and drop Ctrl+C.
+  const std::string item =
+      "<unsigned key=\"virtualkey\" value=\"86\"/><bool key=\"modifier.ctrl\" value=\"true\"/>";
+  const auto path = mFolder / "user" / "Entities.kys";
+  std::ofstream(path)
+      << "<?xml version=\"1.0\"?>\n<!DOCTYPE propertystore [<!ENTITY i \"edit.\">"
+         "<!ENTITY j \"&i;paste\">]>\n<propertystore version=\"1\"><string key=\"platform\" value=\""
+      << ZEL::ShortcutSetFile::GetPlatformName()
+      << "\"/><group key=\"context.Application\"><group key=\"item.0\"><string key=\"commandname\" "
+         "value=\"&j;\"/>"
+      << item << "</group><group key=\"item.1\"><string key=\"commandname\" value=\"edit.paste\"/>" << item
+      << "</group><unsigned key=\"itemcount\" value=\"2\"/></group></propertystore>";
+  EXPECT_FALSE(mManager->ReadSet(path));
+  EXPECT_EQ(LastMessage(), "The shortcut key file \"Entities.kys\" is invalid!");
+  EXPECT_EQ(mHeadless->GetShownMessageBoxes().size(), 1u);
+  EXPECT_EQ(commandOf(KeySpec(0x43, true, false, false)), 57634);
+  EXPECT_EQ(commandOf(KeySpec(0x56, true, false, false)), -1);
+}
+
 TEST_F(ShortcutSetFileTest, UnknownCommandsAndDuplicatesAreSkippedAndReportedOnce) {
   auto& app = mManager->GetGlobalContext();
   app.DeclareCommand("edit.copy", 57634, CommandKind::Menu, "Copy", {}, false);
