@@ -50,6 +50,14 @@ function(zel_add_library name)
     $<BUILD_INTERFACE:${ZEL_GENERATED_INCLUDE_DIR}>
     $<INSTALL_INTERFACE:include>)
   target_link_libraries(${name} PUBLIC ${ARG_PUBLIC_DEPS} PRIVATE ${ARG_PRIVATE_DEPS})
+  # Installed side by side, each library finds its siblings next to itself:
+  # a program's own run path does not reach the libraries its libraries
+  # need (DT_RUNPATH applies to the object that carries it only).
+  if(APPLE)
+    set_target_properties(${name} PROPERTIES INSTALL_RPATH "@loader_path")
+  elseif(UNIX)
+    set_target_properties(${name} PROPERTIES INSTALL_RPATH "$ORIGIN")
+  endif()
   zel_set_warnings(${name})
   set_property(GLOBAL APPEND PROPERTY ZEL_LIBRARIES ${name})
 endfunction()
