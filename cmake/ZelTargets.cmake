@@ -72,11 +72,16 @@ function(zel_add_test name)
   target_link_libraries(${name} PRIVATE ${ARG_LIBS} zel_test_support GTest::gmock)
   zel_set_warnings(${name})
   add_test(NAME ${name} COMMAND ${name} --gtest_color=no)
-  # The sanitizers check what scripts/test checks, whoever runs CTest.
+  zel_set_test_environment(${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+endfunction()
+
+# The sanitizers check what scripts/test checks, whoever runs CTest.
+function(zel_set_test_environment test)
   set(_environment "KRO_BACKEND=headless" "ZEL_SOURCE_DIR=${PROJECT_SOURCE_DIR}"
     "ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1:detect_stack_use_after_return=1"
     "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1")
-  set_tests_properties(${name} PROPERTIES ENVIRONMENT "${_environment}" TIMEOUT 600)
+  set_tests_properties(${test} PROPERTIES ENVIRONMENT "${_environment}")
 endfunction()
 
 # zel_add_bench(<name> SOURCES ... LIBS ...)
