@@ -50,6 +50,14 @@ function(zel_add_library name)
     $<BUILD_INTERFACE:${ZEL_GENERATED_INCLUDE_DIR}>
     $<INSTALL_INTERFACE:include>)
   target_link_libraries(${name} PUBLIC ${ARG_PUBLIC_DEPS} PRIVATE ${ARG_PRIVATE_DEPS})
+  # Installed side by side, each library finds its siblings next to itself:
+  # a program's own run path does not reach the libraries its libraries
+  # need (DT_RUNPATH applies to the object that carries it only).
+  if(APPLE)
+    set_target_properties(${name} PROPERTIES INSTALL_RPATH "@loader_path")
+  elseif(UNIX)
+    set_target_properties(${name} PROPERTIES INSTALL_RPATH "$ORIGIN")
+  endif()
   zel_set_warnings(${name})
   set_property(GLOBAL APPEND PROPERTY ZEL_LIBRARIES ${name})
 endfunction()
@@ -64,11 +72,16 @@ function(zel_add_test name)
   target_link_libraries(${name} PRIVATE ${ARG_LIBS} zel_test_support GTest::gmock)
   zel_set_warnings(${name})
   add_test(NAME ${name} COMMAND ${name} --gtest_color=no)
-  # The sanitizers check what scripts/test checks, whoever runs CTest.
+  zel_set_test_environment(${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+endfunction()
+
+# The sanitizers check what scripts/test checks, whoever runs CTest.
+function(zel_set_test_environment test)
   set(_environment "KRO_BACKEND=headless" "ZEL_SOURCE_DIR=${PROJECT_SOURCE_DIR}"
     "ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1:detect_stack_use_after_return=1"
     "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1")
-  set_tests_properties(${name} PROPERTIES ENVIRONMENT "${_environment}" TIMEOUT 600)
+  set_tests_properties(${test} PROPERTIES ENVIRONMENT "${_environment}")
 endfunction()
 
 # zel_add_bench(<name> SOURCES ... LIBS ...)
