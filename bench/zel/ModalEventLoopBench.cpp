@@ -15,6 +15,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include "AllocationCounter.h"
+
 #include <cstdlib>
 #include <memory>
 
@@ -59,14 +61,24 @@ struct Desk {
   }
 };
 
+// Allocations per event inside the timing (queueing the scripted moves is not counted).
+void CountAllocationsPerEvent(benchmark::State& state, long long allocations) {
+  state.counters["allocations/event"] = benchmark::Counter(
+      static_cast<double>(allocations) / static_cast<double>(state.range(0)), benchmark::Counter::kAvgIterations);
+}
+
 void BM_PlainLoopMoves(benchmark::State& state) {
   Desk desk;
+  long long allocations = 0;
   for (auto _ : state) {
     state.PauseTiming();
     desk.QueueMoves(state.range(0));
+    const long long before = ZELBench::sAllocations;
     state.ResumeTiming();
     kroui::ui::EventLoop::Instance().Run(); // returns once no event is left
+    allocations += ZELBench::sAllocations - before;
   }
+  CountAllocationsPerEvent(state, allocations);
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 BENCHMARK(BM_PlainLoopMoves)->Arg(10)->Arg(1000);
@@ -74,14 +86,18 @@ BENCHMARK(BM_PlainLoopMoves)->Arg(10)->Arg(1000);
 void BM_ModalLoopMoves(benchmark::State& state) {
   Desk desk;
   CountingControl control;
+  long long allocations = 0;
   for (auto _ : state) {
     state.PauseTiming();
     desk.QueueMoves(state.range(0));
     desk.headless.ReleaseButton();
+    const long long before = ZELBench::sAllocations;
     state.ResumeTiming();
     ZEL::ModalEventLoopDriver(control).RunEventLoop();
+    allocations += ZELBench::sAllocations - before;
   }
   benchmark::DoNotOptimize(control.GetSum());
+  CountAllocationsPerEvent(state, allocations);
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 BENCHMARK(BM_ModalLoopMoves)->Arg(10)->Arg(1000);

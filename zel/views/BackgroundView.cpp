@@ -1,23 +1,12 @@
 #include <zel/views/BackgroundView.h>
 
-#include <zel/appearance/ThemeChangedMessage.h>
-
-#include <krocore/messaging/Listener.h>
-#include <krocore/messaging/Message.h>
-
 #include <optional>
 
 namespace ZEL {
 
-/// The colour in force, and the ear on the theme station while it is an ID.
-struct BackgroundViewColor final : krocore::messaging::Listener {
-  explicit BackgroundViewColor(BackgroundView& owner) : view(owner) {}
-
-  void ListenToMessage(const krocore::messaging::Message& message) override {
-    if (message.Is<ThemeChangedMessage>()) view.Repaint();
-  }
-
-  BackgroundView& view; // owns this, so outlives it
+/// The colour in force. A colour ID needs no ear on the theme: a theme change
+/// repaints every window (ColorManager), and the ID is looked up at each paint.
+struct BackgroundViewColor {
   std::optional<BackgroundView::Color> fixed;
   std::optional<BackgroundView::ColorID> id;
 };
@@ -31,15 +20,13 @@ kroui::drawbot::ColorRGBA ToRGBA(const BackgroundView::Color& c) {
 } // namespace
 
 BackgroundView::BackgroundView(const krocore::FlexWeakPtr<Commander>& superCommander)
-    : SubView(superCommander), mColor(std::make_unique<BackgroundViewColor>(*this)) {}
+    : SubView(superCommander), mColor(std::make_unique<BackgroundViewColor>()) {}
 
 BackgroundView::~BackgroundView() = default;
 
 void BackgroundView::SetBackgroundColor(const Color& color) {
   mColor->fixed = color;
   mColor->id.reset();
-  // A fixed colour does not care about themes.
-  mColor->UnsubscribeFrom(kStation_ThemeChanged);
   Repaint();
 }
 
@@ -52,7 +39,6 @@ bool BackgroundView::GetBackgroundColor(Color& color) const {
 void BackgroundView::SetBackgroundColorID(const ColorID& colorID) {
   mColor->id = colorID;
   mColor->fixed.reset();
-  mColor->SubscribeTo(kStation_ThemeChanged);
   Repaint();
 }
 

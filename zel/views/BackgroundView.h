@@ -38,7 +38,6 @@ protected:
   void PaintSelf(DC& dc) override;
 
 private:
-  friend struct BackgroundViewColor;
   void Repaint();
 
   std::unique_ptr<BackgroundViewColor> mColor;

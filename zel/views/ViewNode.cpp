@@ -33,16 +33,24 @@ ViewNode<View, NodeBase>::~ViewNode() = default;
 
 // Buttons.
 
+// A press or a release reaches the hook of its button; a button the view's
+// hook set lacks is left to the parent.
 template <typename View, typename NodeBase>
-bool ViewNode<View, NodeBase>::MouseDownSelf(const PointerEvent& event) {
+bool ViewNode<View, NodeBase>::Press(const PointerEvent& event, bool isDown) {
   const std::shared_ptr<View> view = GetView();
   if (!view) return false;
+  const auto& at = event.position;
+  const KeyModifiers modifiers = ModifiersOf(event);
   switch (event.button) {
-  case Button::Left: view->LeftButtonDownSelf(event.position, ModifiersOf(event)); return true;
-  case Button::Right: view->RightButtonDownSelf(event.position, ModifiersOf(event)); return true;
+  case Button::Left:
+    isDown ? view->LeftButtonDownSelf(at, modifiers) : view->LeftButtonUpSelf(at, modifiers);
+    return true;
+  case Button::Right:
+    isDown ? view->RightButtonDownSelf(at, modifiers) : view->RightButtonUpSelf(at, modifiers);
+    return true;
   case Button::Middle:
     if constexpr (kHasMiddleButtonHooks<View>) {
-      view->MiddleButtonDownSelf(event.position, ModifiersOf(event));
+      isDown ? view->MiddleButtonDownSelf(at, modifiers) : view->MiddleButtonUpSelf(at, modifiers);
       return true;
     }
     return false;
@@ -51,20 +59,13 @@ bool ViewNode<View, NodeBase>::MouseDownSelf(const PointerEvent& event) {
 }
 
 template <typename View, typename NodeBase>
+bool ViewNode<View, NodeBase>::MouseDownSelf(const PointerEvent& event) {
+  return Press(event, true);
+}
+
+template <typename View, typename NodeBase>
 bool ViewNode<View, NodeBase>::MouseUpSelf(const PointerEvent& event) {
-  const std::shared_ptr<View> view = GetView();
-  if (!view) return false;
-  switch (event.button) {
-  case Button::Left: view->LeftButtonUpSelf(event.position, ModifiersOf(event)); return true;
-  case Button::Right: view->RightButtonUpSelf(event.position, ModifiersOf(event)); return true;
-  case Button::Middle:
-    if constexpr (kHasMiddleButtonHooks<View>) {
-      view->MiddleButtonUpSelf(event.position, ModifiersOf(event));
-      return true;
-    }
-    return false;
-  default: return false;
-  }
+  return Press(event, false);
 }
 
 template <typename View, typename NodeBase>

@@ -66,6 +66,7 @@ protected:
 private:
   using Action = kroui::ui::PointerEvent::Action;
 
+  bool Press(const kroui::ui::PointerEvent& event, bool isDown);
   bool Gesture(const kroui::ui::PointerEvent& event, bool consumed);
 
   std::weak_ptr<View> mView;
