@@ -43,6 +43,11 @@ namespace Windows {
 class ParentAndChildWindowDisabler;
 } // namespace Windows
 
+// Time controls.
+struct FractionRange;
+class ZoomBarCurve;
+class ZoomLimiter;
+
 // Workspace.
 class IProject;
 class SwitchableTabView;

@@ -48,6 +48,8 @@
 #include <zel/views/FocusSaver.h>
 #include <zel/views/ParentAndChildWindowDisabler.h>
 #include <zel/views/WinOSEventFilterer.h>
+#include <zel/timecontrols/ZoomBarCurve.h>
+#include <zel/timecontrols/ZoomLimiter.h>
 #include <zel/workspace/IProject.h>
 #include <zel/workspace/SwitchableTabView.h>
 #include <zel/workspace/WindowClassCallback.h>
