@@ -61,7 +61,7 @@ ViewBase::Rect SubView::GetBounds() const {
 
 void SubView::RequestReflow() {
   if (!detail::HasNode(mImpl)) return;
-  if (const auto parent = mParent.lock()) parent->RequestReflow();
+  if (kroui::ui::UI_Container* parent = mImpl->GetParent()) parent->RequestLayout();
 }
 
 ViewBase::Rect SubView::ClientRect() const {

@@ -54,7 +54,8 @@ public:
 
   void SetBounds(const Rect& bounds) override;
   Rect GetBounds() const override;
-  /// Passes the request to the parent view, whose layout places this one.
+  /// The parent lays out again before its window paints next (its
+  /// SetBoundsSelf hears its bounds again): once, however many children ask.
   void RequestReflow() override;
   Rect ClientRect() const override;
   void Show(bool show) override;

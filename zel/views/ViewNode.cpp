@@ -204,6 +204,16 @@ void ViewNode<View, NodeBase>::SetBoundsSelf(const kroui::ui::Rect& bounds) {
   if (const std::shared_ptr<View> view = GetView()) view->SetBoundsSelf(bounds);
 }
 
+template <typename View, typename NodeBase>
+void ViewNode<View, NodeBase>::LayoutSelf() {
+  if (const std::shared_ptr<View> view = GetView()) view->SetBoundsSelf(this->GetBounds());
+}
+
+template <typename View, typename NodeBase>
+void ViewNode<View, NodeBase>::PrepareForFocusFromAdvanceSelf() {
+  if (const std::shared_ptr<View> view = GetView()) view->PrepareForKeyboardFocusFromAdvance(view);
+}
+
 template class ViewNode<SubView, kroui::ui::UI_Container>;
 template class ViewNode<PlatformView, kroui::ui::UI_Node>;
 

@@ -62,6 +62,10 @@ protected:
   bool DropSelf(kroui::ui::DataObject& data, int effect, kroui::ui::Point local) override;
   std::string GetToolTipTextSelf() const override;
   void SetBoundsSelf(const kroui::ui::Rect& bounds) override;
+  /// A view lays out its children where it hears of its bounds: a requested
+  /// layout tells it its bounds again.
+  void LayoutSelf() override;
+  void PrepareForFocusFromAdvanceSelf() override;
 
 private:
   using Action = kroui::ui::PointerEvent::Action;

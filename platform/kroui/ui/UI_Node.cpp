@@ -239,6 +239,12 @@ void UI_Node::Redraw() {
   if (UI_Window* window = GetWindow()) window->PaintNow();
 }
 
+void UI_Node::RequestLayout() {
+  UI_Window* window = GetWindow();
+  if (!window) return; // a detached node is laid out when it is placed
+  window->ScheduleLayout(*this);
+}
+
 // Focus and mouse.
 
 bool UI_Node::SetFocus() {
@@ -400,6 +406,7 @@ void UI_Node::SetFocusSelf() {}
 void UI_Node::KillFocusSelf() {}
 bool UI_Node::WantsFocusSelf() const { return true; }
 bool UI_Node::AllowFocusToAdvanceFromChildrenSelf() const { return true; }
+void UI_Node::PrepareForFocusFromAdvanceSelf() {}
 int UI_Node::DragEnterSelf(DataObject&, ModifierKeys, Point) { return kDropEffect_None; }
 int UI_Node::DragOverSelf(DataObject&, ModifierKeys, Point) { return kDropEffect_None; }
 void UI_Node::DragLeaveSelf() {}
@@ -408,6 +415,7 @@ bool UI_Node::TimerNotifySelf(unsigned) { return false; }
 std::string UI_Node::GetToolTipTextSelf() const { return {}; }
 bool UI_Node::DisplaysToolTipForChildSelf(const UI_Node*) const { return false; }
 void UI_Node::SetBoundsSelf(const Rect&) {}
+void UI_Node::LayoutSelf() {}
 void UI_Node::VisibilityChangedSelf() {}
 void UI_Node::PlacementChangedSelf() {}
 void UI_Node::EnabledChangedSelf() {}

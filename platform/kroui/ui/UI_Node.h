@@ -112,6 +112,9 @@ public:
   void InvalidateRect(const Rect& local);
   /// Invalidates the node and paints its window's dirty region now.
   void Redraw();
+  /// Asks for LayoutSelf before the window paints next: however many
+  /// requests come before a paint, the node lays out once.
+  void RequestLayout();
   /// Paints this node and its subtree onto any drawbot, the node's top-left
   /// at the drawbot's origin (snapshots, drag images, tests).
   void PaintInto(drawbot::Drawbot& drawbot);
@@ -213,6 +216,9 @@ protected:
   virtual bool WantsFocusSelf() const;
   /// False keeps Tab cycling among this node's descendants once the focus is inside them.
   virtual bool AllowFocusToAdvanceFromChildrenSelf() const;
+  /// Before Tab gives this node the focus, so that it (or what encloses it)
+  /// can bring itself into sight first.
+  virtual void PrepareForFocusFromAdvanceSelf();
 
   // Drag and drop: positions in this node's coordinates; see kDropEffect_.
   virtual int DragEnterSelf(DataObject& data, ModifierKeys modifiers, Point local);
@@ -228,6 +234,8 @@ protected:
   virtual bool DisplaysToolTipForChildSelf(const UI_Node* child) const;
   /// After the bounds changed, by a call or by the layout binding.
   virtual void SetBoundsSelf(const Rect& bounds);
+  /// Places the children again, once per paint after RequestLayout; nothing by default.
+  virtual void LayoutSelf();
   /// After this node or an ancestor was shown or hidden.
   virtual void VisibilityChangedSelf();
   /// For a node that tracks its placement: after it or an ancestor moved or
@@ -240,6 +248,7 @@ private:
   friend class UI_Container;
   friend class UI_Window;
   friend class WindowInputRouter;
+  friend class WindowPainter;
   friend class WindowToolTip;
   friend class NodePainter;
 

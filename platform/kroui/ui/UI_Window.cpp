@@ -179,6 +179,7 @@ void UI_Window::InvalidateWindowRect(const Rect& area) { mImpl->painter.Invalida
 std::span<const Rect> UI_Window::GetInvalidRects() const noexcept { return mImpl->painter.GetInvalidRects(); }
 bool UI_Window::NeedsPaint() const noexcept { return mImpl->painter.NeedsPaint(); }
 void UI_Window::PaintNow() { mImpl->painter.PaintNow(); }
+void UI_Window::ScheduleLayout(UI_Node& node) { mImpl->painter.ScheduleLayout(node); }
 void UI_Window::SetBackgroundColor(const drawbot::ColorRGBA& color) { mImpl->painter.SetBackgroundColor(color); }
 std::uint64_t UI_Window::GetPaintCount() const noexcept { return mImpl->painter.GetPaintCount(); }
 drawbot::Image UI_Window::GetPixels() const { return mImpl->painter.GetPixels(); }

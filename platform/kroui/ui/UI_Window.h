@@ -111,8 +111,11 @@ public:
   /// The merged invalid region: a few disjoint-enough rectangles.
   std::span<const Rect> GetInvalidRects() const noexcept;
   bool NeedsPaint() const noexcept;
-  /// Paints the invalid region now and presents it; does nothing when nothing is invalid.
+  /// Paints the invalid region now and presents it, after the layouts asked
+  /// for meanwhile; does nothing when nothing is invalid or asked for.
   void PaintNow();
+  /// Runs `node`'s LayoutSelf before the next paint (UI_Node::RequestLayout).
+  void ScheduleLayout(UI_Node& node);
   /// Filled under the root before anything paints (opaque white by default).
   /// A translucent one is not blended: the window is painted whole from pixels
   /// set to it, so that a layer over other windows can be transparent.

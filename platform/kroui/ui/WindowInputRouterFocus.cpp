@@ -59,7 +59,10 @@ bool WindowInputRouter::AdvanceFocus(bool forward) {
   const auto count = static_cast<std::ptrdiff_t>(chain.size());
   std::ptrdiff_t next = forward ? 0 : count - 1;
   if (at != chain.end()) next = ((at - chain.begin()) + (forward ? 1 : count - 1)) % count;
-  return SetFocusedNode(chain[static_cast<std::size_t>(next)]);
+  // The hook may scroll, or even remove, the node: hold it over the call.
+  const UI_NodePtr target(chain[static_cast<std::size_t>(next)]);
+  target->PrepareForFocusFromAdvanceSelf();
+  return SetFocusedNode(target.Get());
 }
 
 // Keyboard.

@@ -4,13 +4,28 @@
 #include <kroui/drawbot/Drawbot.h>
 #include <kroui/drawbot/RasterSurface.h>
 #include <kroui/ui/NodePainterImpl.h>
+#include <kroui/ui/UI_Node.h>
 #include <kroui/ui/UI_WindowImpl.h>
+
+#include <algorithm>
+#include <utility>
 
 namespace kroui::ui {
 namespace {
 
 // More invalid rectangles than this cost more to paint one by one than their union.
 constexpr std::size_t kMaxInvalidRects = 8;
+
+// Layouts that ask for more layouts run them in the same paint, up to this
+// many rounds; two layouts that keep asking for each other wait for the next
+// paint rather than hang the window.
+constexpr int kMaxLayoutRounds = 4;
+
+int Depth(const UI_Node& node) {
+  int depth = 0;
+  for (const UI_Node* parent = node.GetParent(); parent; parent = parent->GetParent()) ++depth;
+  return depth;
+}
 
 bool Covers(const Rect& outer, const Rect& inner) { return outer.Intersection(inner) == inner; }
 
@@ -66,7 +81,32 @@ void WindowPainter::SetBackgroundColor(const drawbot::ColorRGBA& color) {
 // Painting.
 
 void WindowPainter::PaintNow() {
-  if (NeedsPaint() && !mIsPainting) PaintInvalid();
+  if (!NeedsPaint() || mIsPainting) return;
+  RunLayouts();
+  if (!mInvalid.empty()) PaintInvalid();
+}
+
+// Layout.
+
+void WindowPainter::ScheduleLayout(UI_Node& node) {
+  const krocore::IntrusivePtr<UI_Node> pending(&node);
+  if (std::find(mPendingLayouts.begin(), mPendingLayouts.end(), pending) == mPendingLayouts.end())
+    mPendingLayouts.push_back(pending);
+  // A layout moves and resizes children: what the node shows is to be painted again.
+  node.Invalidate();
+}
+
+// Parents first, so that a child's layout starts from the place its parent gave it.
+void WindowPainter::RunLayouts() {
+  for (int round = 0; round < kMaxLayoutRounds && !mPendingLayouts.empty(); ++round) {
+    std::vector<krocore::IntrusivePtr<UI_Node>> nodes = std::exchange(mPendingLayouts, {});
+    std::stable_sort(nodes.begin(), nodes.end(),
+                     [](const auto& a, const auto& b) { return Depth(*a) < Depth(*b); });
+    for (const auto& node : nodes) {
+      // A node removed from the window since it asked has nothing to lay out here.
+      if (node->GetWindow() == &mState.window) node->LayoutSelf();
+    }
+  }
 }
 
 bool WindowPainter::FitSurface(Extent extent) {

@@ -212,9 +212,10 @@ TEST_F(SubViewTree, TabSkipsViewsThatDoNotWantTheFocus) {
   TakeLog();
   Do([](auto& h) { h.TypeKey(kroui::ui::kKey_Tab); });
   EXPECT_TRUE(a->HasFocus());
-  EXPECT_EQ(TakeLog(), (Strings{"c.KeyDown:9", "root.KeyDown:9", "c.KillFocus", "c:off", "a:on", "a.SetFocus",
-                                "a.KeyUp:9", "root.KeyUp:9"}))
-      << "Tab moves the focus only after the focused view and its super-views declined it";
+  EXPECT_EQ(TakeLog(), (Strings{"c.KeyDown:9", "root.KeyDown:9", "a.Prepare:a", "root.Prepare:a", "c.KillFocus",
+                                "c:off", "a:on", "a.SetFocus", "a.KeyUp:9", "root.KeyUp:9"}))
+      << "Tab moves the focus only after the focused view and its super-views declined it, and prepares the next "
+         "view (passed up its view chain by default) before it takes the focus";
 }
 
 // Timers, tooltips, drag and drop.
@@ -354,10 +355,18 @@ TEST_F(SubViewTree, CreatingInAParentWithoutANodeReportsAndChangesNothing) {
 
 // Geometry, state, the view chain.
 
-TEST_F(SubViewTree, ReflowAndFocusPreparationGoUpTheViewChain) {
+TEST_F(SubViewTree, ReflowsLayOutTheParentOnceBeforeThePaint) {
+  const int aBefore = a->boundsHeard, rootBefore = root->boundsHeard;
   b->RequestReflow();
-  b->PrepareForKeyboardFocusFromAdvance(b);
-  EXPECT_EQ(TakeLog(), (Strings{"b.Reflow", "a.Reflow", "root.Reflow", "b.Prepare:b", "a.Prepare:b", "root.Prepare:b"}));
+  b->RequestReflow();
+  a->RequestReflow();
+  c->RequestReflow();
+  EXPECT_EQ(a->boundsHeard, aBefore) << "nothing runs until the window paints";
+  Pump();
+  EXPECT_EQ(a->boundsHeard - aBefore, 1) << "b asked twice, a laid out once";
+  EXPECT_EQ(root->boundsHeard - rootBefore, 1) << "a and c share their parent's one layout";
+  Pump();
+  EXPECT_EQ(a->boundsHeard - aBefore, 1);
   EXPECT_EQ(b->GetParent(), a);
   EXPECT_EQ(root->GetParent(), nullptr) << "root was placed in a platform container";
 }

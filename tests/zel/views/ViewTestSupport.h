@@ -43,6 +43,7 @@ public:
   std::set<int> obeys;
   std::string dragContext;
   int dropAnswer = 0;
+  int boundsHeard = 0; // counted, not logged: every placement tells it
 
   bool ObeyCommand(const ZEL::Command& command) override {
     Log("obey " + std::to_string(command.GetID()), ':');
@@ -62,6 +63,7 @@ public:
   using SubView::GetOffscreenSelf;
 
 protected:
+  void SetBoundsSelf(const Rect&) override { ++boundsHeard; }
   void NowOnDuty() override { Log("on", ':'); }
   void NowOffDuty() override { Log("off", ':'); }
 

@@ -6,6 +6,7 @@
 
 #include <HeadlessFixture.h>
 
+#include <functional>
 #include <memory>
 #include <set>
 #include <string>
@@ -34,6 +35,7 @@ public:
   drawbot::ColorRGBAOptional background;
   int paints = 0;
   ui::PointerEvent lastPointer;
+  std::function<void()> onLayout;
 
   const std::string& Name() const { return mName; }
 
@@ -78,6 +80,11 @@ protected:
   bool DropSelf(ui::DataObject& data, int, ui::Point) override { Log("Drop:" + data.GetText()); return takesDrop; }
   void VisibilityChangedSelf() override { Log("Visibility"); }
   void SetBoundsSelf(const ui::Rect&) override { Log("Bounds"); }
+  void LayoutSelf() override {
+    Log("Layout");
+    if (onLayout) onLayout();
+  }
+  void PrepareForFocusFromAdvanceSelf() override { Log("Prepare"); }
 
 private:
   std::string mName;

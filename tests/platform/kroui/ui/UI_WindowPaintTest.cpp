@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 
 #include <unistd.h>
@@ -247,4 +248,44 @@ TEST_F(UI_WindowPaint, ATranslucentBackgroundRepaintsFromClearPixels) {
   EXPECT_EQ(Pixels().PixelAt(20, 20), 0u);
 }
 
+// Layout.
+
+TEST_F(UI_WindowPaint, LayoutsAskedForRunOnceBeforeThePaintParentsFirst) {
+  const LogNodePtr parent = Add(window->GetRoot(), "parent", {0, 0, 200, 100});
+  const LogNodePtr child = Add(*parent, "child", {10, 10, 50, 50});
+  Pump();
+  TakeLog();
+  child->RequestLayout();
+  parent->RequestLayout();
+  child->RequestLayout();
+  EXPECT_TRUE(TakeLog().empty()) << "nothing runs until the paint";
+  EXPECT_TRUE(window->NeedsPaint());
+  Pump();
+  EXPECT_EQ(TakeLog(), (std::vector<std::string>{"parent.Layout", "child.Layout"}));
+  EXPECT_FALSE(window->NeedsPaint());
+}
+
+TEST_F(UI_WindowPaint, ALayoutThatAsksForLayoutsNeitherHangsNorRunsARemovedNode) {
+  const LogNodePtr parent = Add(window->GetRoot(), "parent", {0, 0, 200, 100});
+  const LogNodePtr child = Add(*parent, "child", {10, 10, 50, 50});
+  const LogNodePtr gone = Add(window->GetRoot(), "gone", {0, 120, 50, 150});
+  Pump();
+  parent->onLayout = [&] { child->RequestLayout(); };
+  child->onLayout = [&] { child->RequestLayout(); }; // asks for itself for ever
+  parent->RequestLayout();
+  gone->RequestLayout();
+  gone->RemoveFromParent();
+  TakeLog();
+  Pump();
+  const std::vector<std::string> ran = TakeLog();
+  EXPECT_EQ(ran.front(), "parent.Layout");
+  EXPECT_EQ(std::count(ran.begin(), ran.end(), "child.Layout"), 3) << "the child's request of its parent's round "
+                                                                      "runs in the same paint, its own the next";
+  EXPECT_EQ(std::count(ran.begin(), ran.end(), "gone.Layout"), 0);
+  child->onLayout = nullptr;
+  Pump();
+  EXPECT_EQ(TakeLog(), (std::vector<std::string>{"child.Layout"})) << "what was left waits for the next paint";
+}
+
 } // namespace
+
