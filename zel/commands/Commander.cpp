@@ -5,6 +5,7 @@
 #include <krocore/config/TopLevel.h>
 #include <krocore/detail/TaskStatistic.h>
 #include <kroscripting/events/QueueEvent.h>
+#include <kroscripting/events/ScriptConstants.h>
 
 #include <algorithm>
 #include <vector>
@@ -16,6 +17,14 @@ namespace {
 // destroyed its link no longer locks, yet it must still be known as the target.
 CommanderWeakPtr sTarget;
 const Commander* sTargetIdentity = nullptr;
+
+// Scripts compare an event's phase with the constants the scripting layer publishes.
+static_assert(kroscripting::events::FindScriptConstant("COMMAND_PHASE_NONE") ==
+              std::int64_t{static_cast<int>(CommandPhase::None)});
+static_assert(kroscripting::events::FindScriptConstant("COMMAND_PHASE_ENGAGED") ==
+              std::int64_t{static_cast<int>(CommandPhase::Engaged)});
+static_assert(kroscripting::events::FindScriptConstant("COMMAND_PHASE_DISENGAGED") ==
+              std::int64_t{static_cast<int>(CommandPhase::Disengaged)});
 
 const krocore::utility::ImmutableString kCommandEventName{"ZELCommandEvent"};
 const krocore::utility::ImmutableString kCommandIDKey{"commandID"};

@@ -2,6 +2,8 @@
 
 #include <zel/commands/CommandTypes.h>
 
+#include <krocore/debug/Assert.h>
+
 #include <algorithm>
 
 namespace ZEL {
@@ -16,6 +18,15 @@ constexpr std::int32_t kBuiltInPreDispatchCommands[] = {
     kCommand_HostPreDispatchB};
 
 } // namespace
+
+ContextRegistry::ContextRegistry(const std::string& applicationContextName) {
+  AddContext(applicationContextName, applicationContextName);
+}
+
+CommandContext& ContextRegistry::GetContext(std::size_t index) const {
+  if (!KROCORE_ASSERT(index < mContexts.size(), "Command context index out of range")) return GetGlobalContext();
+  return *mContexts[index];
+}
 
 CommandContext& ContextRegistry::AddContext(const std::string& name, const UTF8String& uiName) {
   mContexts.push_back(std::make_unique<CommandContext>(name, uiName));

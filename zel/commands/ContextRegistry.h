@@ -22,9 +22,14 @@ namespace ZEL {
 /// questions it asks are answered inline.
 class ContextRegistry {
 public:
+  /// Makes the application context first: the dispatcher falls back to it
+  /// on every key, so the list is never empty.
+  explicit ContextRegistry(const std::string& applicationContextName);
+
   CommandContext& AddContext(const std::string& name, const UTF8String& uiName);
   CommandContext& GetGlobalContext() const { return *mContexts.front(); }
-  CommandContext& GetContext(std::size_t index) const { return *mContexts.at(index); }
+  /// An index past the end is reported and gives the application context.
+  CommandContext& GetContext(std::size_t index) const;
   /// An unknown name gives the application context.
   CommandContext& GetContext(const std::string& name) const { return *mContexts[GetContextIndex(name)]; }
   std::size_t GetContextIndex(const std::string& name) const;

@@ -16,7 +16,6 @@ ShortcutManager* ShortcutManager::Instance() noexcept { return sInstance.get(); 
 
 void ShortcutManager::Initialize() {
   sInstance.reset(new ShortcutManager());
-  sInstance->AddContext(kApplicationContextName, kApplicationContextName);
   sInstance->SetPreDispatchMap();
   sInstance->mImpl->library.RegisterBuiltInPresets();
 }

@@ -4,6 +4,7 @@
 
 #include <zel/commands/ContextRegistry.h>
 #include <zel/commands/ShortcutDispatcher.h>
+#include <zel/commands/ShortcutManager.h>
 #include <zel/commands/ShortcutSetLibrary.h>
 
 namespace ZEL {
@@ -11,7 +12,8 @@ namespace ZEL {
 class ShortcutManager;
 
 struct ShortcutManagerImpl {
-  explicit ShortcutManagerImpl(const ShortcutManager& front) : dispatcher(registry), library(front) {}
+  explicit ShortcutManagerImpl(const ShortcutManager& front)
+      : registry(ShortcutManager::kApplicationContextName), dispatcher(registry), library(front) {}
 
   ContextRegistry registry;
   ShortcutDispatcher dispatcher;

@@ -7,6 +7,7 @@
 #include <krocore/threads/MainThreadQueue.h>
 #include <kroscripting/events/Event.h>
 #include <kroscripting/events/EventListenerToken.h>
+#include <kroscripting/events/ScriptConstants.h>
 #include <kroui/base/KeyboardEvent.h>
 
 #include <gtest/gtest.h>
@@ -103,6 +104,10 @@ TEST_F(ShortcutManagerTest, AKeystrokeRunsItsCommandFromEndToEnd) {
   krocore::threads::DrainMainThreadQueue();
   ASSERT_EQ(events.size(), 1u);
   EXPECT_EQ(*events[0].payload.GetIf<std::int64_t>("commandID"), 500);
+  EXPECT_EQ(*events[0].payload.GetIf<std::int64_t>("phase"),
+            kroscripting::events::FindScriptConstant("COMMAND_PHASE_ENGAGED"))
+      << "a script reads the phase by its published name";
+  EXPECT_FALSE(kroscripting::events::FindScriptConstant("COMMAND_PHASE_UNKNOWN"));
 }
 
 TEST_F(ShortcutManagerTest, AFocusedControlThatTakesTheKeyStopsTheShortcut) {
@@ -231,13 +236,17 @@ TEST_F(ShortcutManagerTest, ActionsAreDisabledOnlyByTheGlobalFilter) {
   EXPECT_EQ(mField->Obeyed().size(), 1u);
 }
 
-TEST_F(ShortcutManagerTest, UnknownCurrentContextIsServedByTheApplicationContext) {
+TEST_F(ShortcutManagerTest, UnknownContextNamesAndIndicesAreServedByTheApplicationContext) {
   mManager->GetGlobalContext().DeclareCommand("app.save", 1200, CommandKind::Menu, "Save", {}, false);
   mManager->GetGlobalContext().SetCommandShortcuts("app.save", {KeySpec(kKeyL, true, false, false)});
   mField->Handle(1200);
   mManager->ApplyContext("NoSuchPanel");
   EXPECT_EQ(mManager->GetContextIndex("NoSuchPanel"), 0u);
   EXPECT_TRUE(mManager->DispatchKeyboardEvent(Down(kKeyL, kCtrl), false));
+
+  krocore::debug::ScopedAssertionRecorder recorder;
+  EXPECT_EQ(&mManager->GetContext(mManager->GetContextCount()), &mManager->GetGlobalContext());
+  EXPECT_TRUE(recorder.Contains("Command context index out of range"));
 }
 
 TEST_F(ShortcutManagerTest, CharacterInputIsNeverACommand) {
