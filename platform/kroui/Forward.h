@@ -5,6 +5,7 @@
 namespace kroui::ui {
 class Cursor;
 class DataObject;
+class DataSource;
 struct DragSession;
 class EventLoop;
 class KeyboardCode;

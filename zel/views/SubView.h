@@ -188,6 +188,12 @@ public:
 
   // Drag and drop: the drag hooks are called only when this is on.
   void WantsDragAndDropEvents(bool wants);
+  /// What the view offers when the user drags from it: give it the data,
+  /// then run DoDragDrop from a button or move hook. Made on first use;
+  /// null when the view is not created.
+  std::shared_ptr<kroui::ui::DataSource> GetDataSource();
+  /// Ends the view's drag: a drag in progress is cancelled, the data forgotten.
+  void FinishDragAndDrop();
 
   /// Null when the view is not created.
   std::shared_ptr<kroui::ui::UI_Animator> Animator();

@@ -6,6 +6,7 @@
 #include <zel/views/ViewSupport.h>
 
 #include <kroui/base/DataObject.h>
+#include <kroui/ui/DataSource.h>
 
 #include <utility>
 
@@ -52,6 +53,15 @@ DC& SubViewImpl::GetOffscreen() {
 }
 
 // Drag and drop.
+
+std::shared_ptr<kroui::ui::DataSource> SubViewImpl::GetDataSource() {
+  if (!mDataSource) mDataSource = std::make_shared<kroui::ui::DataSource>();
+  return mDataSource;
+}
+
+void SubViewImpl::FinishDragAndDrop() {
+  if (mDataSource) mDataSource->Finish();
+}
 
 int SubViewImpl::DragEnterSelf(kroui::ui::DataObject& data, kroui::ui::ModifierKeys modifiers, kroui::ui::Point local) {
   const std::shared_ptr<SubView> view = GetView();

@@ -27,6 +27,9 @@ public:
   kroui::drawbot::Drawbot* GetPaintingDrawbot() const noexcept { return mPainting; }
   /// The view's double buffer, remade when the view's size changed.
   DC& GetOffscreen();
+  /// The view's drag source, made on first use.
+  std::shared_ptr<kroui::ui::DataSource> GetDataSource();
+  void FinishDragAndDrop();
 
 protected:
   ~SubViewImpl() override;
@@ -68,6 +71,7 @@ private:
   void EndDrag();
 
   std::unique_ptr<Offscreen> mOffscreen;
+  std::shared_ptr<kroui::ui::DataSource> mDataSource;
   kroui::drawbot::Drawbot* mPainting = nullptr;
   /// Whether a drag over this view put the view's drag command context in force.
   bool mHasDragContext = false;

@@ -172,6 +172,16 @@ void SubView::WantsDragAndDropEvents(bool wants) {
   mImpl->SetWantsDragAndDropEvents(wants);
 }
 
+std::shared_ptr<kroui::ui::DataSource> SubView::GetDataSource() {
+  if (!detail::HasNode(mImpl)) return nullptr;
+  return mImpl->GetDataSource();
+}
+
+void SubView::FinishDragAndDrop() {
+  if (!detail::HasNode(mImpl)) return;
+  mImpl->FinishDragAndDrop();
+}
+
 std::shared_ptr<kroui::ui::UI_Animator> SubView::Animator() {
   if (!detail::HasNode(mImpl)) return nullptr;
   return mImpl->Animator();

@@ -26,10 +26,11 @@ std::optional<std::int64_t> TimeToNextTimer(const EventLoop& loop, const utility
 
 } // namespace
 
-backend::WaitResult WaitForModalEvent(OS_Event& event) {
+backend::WaitResult WaitForModalEvent(OS_Event& event, const std::function<bool()>& isStopped) {
   EventLoop& loop = EventLoop::Instance();
   for (;;) {
     RunDueWork(loop);
+    if (isStopped && isStopped()) return backend::WaitResult::Woken;
     const backend::WaitResult result = loop.GetNextEvent(event, TimeToNextTimer(loop, loop.GetTimers()));
     if (result == backend::WaitResult::Event) return result;
     const bool idleForever = result == backend::WaitResult::NoMoreEvents &&

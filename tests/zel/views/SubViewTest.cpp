@@ -5,6 +5,7 @@
 
 #include <krocore/debug/Assert.h>
 #include <kroui/base/DataObject.h>
+#include <kroui/ui/DataSource.h>
 #include <kroui/base/KeyTable.h>
 #include <kroui/drawbot/RecordingDrawbot.h>
 #include <kroui/skins/SkinManager.h>
@@ -272,6 +273,30 @@ TEST_F(SubViewTree, ADragOverAViewPutsItsDragContextInForceUntilTheDrop) {
   ZEL::ShortcutManager::Finalize();
 }
 
+TEST_F(SubViewTree, AViewDragsItsDataOntoAnotherView) {
+  c->WantsDragAndDropEvents(true);
+  c->dropAnswer = kroui::ui::kDropEffect_Move;
+  RestAt(30, 35);
+  Do([](auto& h) { h.PressButton(); });
+  const std::shared_ptr<kroui::ui::DataSource> source = b->GetDataSource();
+  ASSERT_NE(source, nullptr);
+  EXPECT_EQ(b->GetDataSource(), source) << "one source per view";
+  kroui::ui::DataObject data;
+  data.SetText("clip");
+  source->SetData(data);
+  int heard = -1;
+  source->SetFinishedHook([&](int effect) { heard = effect; });
+  Headless().MoveMouseTo(Window().GetNativeWindow(), {140, 40});
+  Headless().MoveMouseTo(Window().GetNativeWindow(), {150, 50});
+  Headless().ReleaseButton();
+  TakeLog();
+  EXPECT_EQ(source->DoDragDrop(), kroui::ui::kDropEffect_Move);
+  EXPECT_EQ(heard, kroui::ui::kDropEffect_Move);
+  EXPECT_EQ(TakeLog(), (Strings{"c.DragEnter@30,40", "c.DragOver@20,30", "c.DragOver@30,40", "c.Drop2@30,40"}));
+  b->FinishDragAndDrop();
+  EXPECT_EQ(source->DoDragDrop(), kroui::ui::kDropEffect_None) << "finished: nothing left to drag";
+}
+
 // Painting.
 
 class PaintingView : public ZEL::SubView {
@@ -474,6 +499,8 @@ INSTANTIATE_TEST_SUITE_P(
         NeutralCase{"SetTimer", [](Uncreated& v) { v.SetTimer(1, 10); }},
         NeutralCase{"RemoveTimer", [](Uncreated& v) { v.RemoveTimer(1); }},
         NeutralCase{"WantsDragAndDropEvents", [](Uncreated& v) { v.WantsDragAndDropEvents(true); }},
+        NeutralCase{"GetDataSource", [](Uncreated& v) { EXPECT_EQ(v.GetDataSource(), nullptr); }},
+        NeutralCase{"FinishDragAndDrop", [](Uncreated& v) { v.FinishDragAndDrop(); }},
         NeutralCase{"Animator", [](Uncreated& v) { EXPECT_EQ(v.Animator(), nullptr); }}),
     [](const auto& row) { return std::string(row.param.operation); });
 

@@ -36,6 +36,7 @@ public:
   int paints = 0;
   ui::PointerEvent lastPointer;
   std::function<void()> onLayout;
+  std::function<void()> onTimer;
 
   const std::string& Name() const { return mName; }
 
@@ -73,7 +74,11 @@ protected:
   bool AllowFocusToAdvanceFromChildrenSelf() const override { return allowsFocusToAdvance; }
   bool DisplaysToolTipForChildSelf(const ui::UI_Node*) const override { return showsToolTipForChildren; }
   std::string GetToolTipTextSelf() const override { return dynamicToolTip; }
-  bool TimerNotifySelf(unsigned id) override { Log("Timer" + std::to_string(id)); return true; }
+  bool TimerNotifySelf(unsigned id) override {
+    Log("Timer" + std::to_string(id));
+    if (onTimer) onTimer();
+    return true;
+  }
   int DragEnterSelf(ui::DataObject&, ui::ModifierKeys, ui::Point) override { Log("DragEnter"); return dragAnswer; }
   int DragOverSelf(ui::DataObject&, ui::ModifierKeys, ui::Point) override { Log("DragOver"); return dragAnswer; }
   void DragLeaveSelf() override { Log("DragLeave"); }
