@@ -60,4 +60,7 @@ class CursorInitializer;
 class ThemeChangedMessage;
 class ThemeResources;
 
+// Time controls.
+struct MarkerAddition;
+
 } // namespace ZEL
