@@ -2,7 +2,6 @@
 
 #include <be/markers/CompoundActionImpl.h>
 
-#include <ranges>
 #include <utility>
 
 namespace BE {
@@ -24,7 +23,8 @@ void CompoundAction::Record(std::function<void()> undo, std::function<void()> re
 std::size_t CompoundAction::GetChangeCount() const noexcept { return mImpl->mChanges.size(); }
 
 void CompoundAction::Undo() {
-  for (auto& change : std::views::reverse(mImpl->mChanges)) change.undo();
+  // Reverse iterators, not a reversed view: clang 14 cannot build libstdc++ 12's views.
+  for (auto change = mImpl->mChanges.rbegin(); change != mImpl->mChanges.rend(); ++change) change->undo();
 }
 
 void CompoundAction::Redo() {
