@@ -22,7 +22,9 @@ constexpr std::string_view kCount = "count";
 constexpr std::string_view kItem = "marker";
 
 std::string Missing(std::string_view key, std::string_view kind) {
-  return "\"" + std::string(key) + "\" is missing or not " + std::string(kind);
+  std::string text(1, '"');
+  text.append(key).append("\" is missing or not ").append(kind);
+  return text;
 }
 
 // The fields of the open marker group, or what is wrong with them.
