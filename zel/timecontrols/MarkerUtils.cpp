@@ -58,42 +58,49 @@ IMarkerRef FirstVisibleSpan(const MarkerList& list, Iterator end, const MarkerFi
 
 std::shared_ptr<const MarkerFilterState> Filter() { return MarkerFilterImpl::Instance().Get(); }
 
+// Runs `query` on the collection's markers and the current filter.
+template <typename Query>
+IMarkerRef Ask(const BE::IMarkers& markers, Query query) {
+  const BE::ReadValidator validator;
+  return query(markers.GetMarkers(validator), *Filter());
+}
+
 } // namespace
 
 IMarkerRef GetFirstVisibleMarker(const BE::IMarkers& markers) {
-  const BE::ReadValidator validator;
-  const MarkerList& list = markers.GetMarkers(validator);
-  return FirstVisibleFrom(list, list.begin(), *Filter());
+  return Ask(markers, [&](const MarkerList& list, const MarkerFilterState& filter) {
+    return FirstVisibleFrom(list, list.begin(), filter);
+  });
 }
 
 IMarkerRef GetLastVisibleMarker(const BE::IMarkers& markers) {
-  const BE::ReadValidator validator;
-  const MarkerList& list = markers.GetMarkers(validator);
-  return LastVisibleBefore(list, list.end(), *Filter());
+  return Ask(markers, [&](const MarkerList& list, const MarkerFilterState& filter) {
+    return LastVisibleBefore(list, list.end(), filter);
+  });
 }
 
 IMarkerRef GetNextVisibleMarker(const BE::IMarkers& markers, TickTime time) {
-  const BE::ReadValidator validator;
-  const MarkerList& list = markers.GetMarkers(validator);
-  return FirstVisibleFrom(list, StartingFrom(list, time, true), *Filter());
+  return Ask(markers, [&](const MarkerList& list, const MarkerFilterState& filter) {
+    return FirstVisibleFrom(list, StartingFrom(list, time, true), filter);
+  });
 }
 
 IMarkerRef GetNextVisibleMarker(const BE::IMarkers& markers, const IMarker& marker) {
-  const BE::ReadValidator validator;
-  const MarkerList& list = markers.GetMarkers(validator);
-  return FirstVisibleFrom(list, Following(list, marker, true), *Filter());
+  return Ask(markers, [&](const MarkerList& list, const MarkerFilterState& filter) {
+    return FirstVisibleFrom(list, Following(list, marker, true), filter);
+  });
 }
 
 IMarkerRef GetPreviousVisibleMarker(const BE::IMarkers& markers, TickTime time) {
-  const BE::ReadValidator validator;
-  const MarkerList& list = markers.GetMarkers(validator);
-  return LastVisibleBefore(list, StartingFrom(list, time, false), *Filter());
+  return Ask(markers, [&](const MarkerList& list, const MarkerFilterState& filter) {
+    return LastVisibleBefore(list, StartingFrom(list, time, false), filter);
+  });
 }
 
 IMarkerRef GetPreviousVisibleMarker(const BE::IMarkers& markers, const IMarker& marker) {
-  const BE::ReadValidator validator;
-  const MarkerList& list = markers.GetMarkers(validator);
-  return LastVisibleBefore(list, Following(list, marker, false), *Filter());
+  return Ask(markers, [&](const MarkerList& list, const MarkerFilterState& filter) {
+    return LastVisibleBefore(list, Following(list, marker, false), filter);
+  });
 }
 
 IMarkerRef GetVisibleMarker(const BE::IMarkers& markers, TickTime time, BE::MarkerLocation* location) {
@@ -117,10 +124,10 @@ IMarkerRef GetVisibleMarker(const BE::IMarkers& markers, TickTime time, BE::Mark
 }
 
 IMarkerRef GetVisibleDurationMarkerEndingAtTime(const BE::IMarkers& markers, TickTime time) {
-  const BE::ReadValidator validator;
-  const MarkerList& list = markers.GetMarkers(validator);
-  return FirstVisibleSpan(list, StartingFrom(list, time, false), *Filter(),
+  return Ask(markers, [&](const MarkerList& list, const MarkerFilterState& filter) {
+    return FirstVisibleSpan(list, StartingFrom(list, time, false), filter,
                           [time](const IMarker& m) { return m.GetEnd() == time; });
+  });
 }
 
 IMarkerRef GetVisibleMatchingSelectedMarker(const BE::IMarkers& markers, const MarkerList& selected) {

@@ -5,6 +5,21 @@
 #include <utility>
 
 namespace BE {
+namespace {
+
+using Steps = std::vector<std::unique_ptr<ICompoundAction>>;
+
+// Takes the top step of `from`, undoes or redoes it, and puts it on `to`.
+bool MoveTop(Steps& from, Steps& to, void (ICompoundAction::*apply)()) {
+  if (from.empty()) return false;
+  auto action = std::move(from.back());
+  from.pop_back();
+  ((*action).*apply)();
+  to.push_back(std::move(action));
+  return true;
+}
+
+} // namespace
 
 UndoStack::UndoStack() : mImpl(std::make_unique<UndoStackImpl>()) {}
 
@@ -16,23 +31,9 @@ void UndoStack::Push(std::unique_ptr<ICompoundAction> action) {
   mImpl->mUndone.clear();
 }
 
-bool UndoStack::Undo() {
-  if (mImpl->mDone.empty()) return false;
-  auto action = std::move(mImpl->mDone.back());
-  mImpl->mDone.pop_back();
-  action->Undo();
-  mImpl->mUndone.push_back(std::move(action));
-  return true;
-}
+bool UndoStack::Undo() { return MoveTop(mImpl->mDone, mImpl->mUndone, &ICompoundAction::Undo); }
 
-bool UndoStack::Redo() {
-  if (mImpl->mUndone.empty()) return false;
-  auto action = std::move(mImpl->mUndone.back());
-  mImpl->mUndone.pop_back();
-  action->Redo();
-  mImpl->mDone.push_back(std::move(action));
-  return true;
-}
+bool UndoStack::Redo() { return MoveTop(mImpl->mUndone, mImpl->mDone, &ICompoundAction::Redo); }
 
 std::size_t UndoStack::GetUndoCount() const noexcept { return mImpl->mDone.size(); }
 
