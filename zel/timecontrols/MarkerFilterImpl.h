@@ -20,11 +20,15 @@ struct MarkerFilterState {
   std::uint32_t colorIDs = 0; ///< bit n: colour ID n is selected
   BE::MarkerTypeFilter types;
 
-  bool IsColorSelected(const BE::IMarker& marker) const noexcept {
-    return (colorIDs >> static_cast<unsigned>(marker.GetColorID())) & 1u;
-  }
+  bool IsColorSelected(const BE::IMarker& marker) const noexcept { return IsSelected(marker.GetColorID()); }
   bool Passes(const BE::IMarker& marker) const noexcept {
-    return (colors.empty() || IsColorSelected(marker)) && types.Shows(marker);
+    const BE::MarkerFields& fields = marker.GetFields();
+    return (colors.empty() || IsSelected(fields.color)) && types.ShowsType(fields.type);
+  }
+
+private:
+  bool IsSelected(BE::MarkerUtils::MarkerColorID id) const noexcept {
+    return (colorIDs >> static_cast<unsigned>(id)) & 1u;
   }
 };
 

@@ -3,6 +3,7 @@
 
 #include <zel/appearance/ColorManager.h>
 
+#include <krocore/debug/Assert.h>
 #include <kroui/theme/ThemeChangedFunctions.h>
 
 #include <array>
@@ -55,7 +56,9 @@ const krocore::utility::ImmutableString& GetMarkerColorKeyV7(MarkerColorID id) {
       krocore::utility::ImmutableString("colors.kls.Marker.Blue"),
       krocore::utility::ImmutableString("colors.kls.Marker.Cyan"),
   };
-  return sKeys[static_cast<std::size_t>(id) % sKeys.size()];
+  const auto index = static_cast<std::size_t>(id);
+  if (!KROCORE_ASSERT(index < sKeys.size(), "Marker colour ID out of range")) return sKeys[0];
+  return sKeys[index];
 }
 
 const MarkerColorTable& GetMarkerColorsV7() {

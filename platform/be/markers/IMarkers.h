@@ -29,6 +29,7 @@ class BE_API IMarkers {
 public:
   virtual ~IMarkers();
 
+  /// The markers in order; the list is valid until the next change.
   virtual const MarkerList& GetMarkers(const ReadValidator& validator) const = 0;
   virtual IMarkerRef FindMarker(MarkerID id, const ReadValidator& validator) const = 0;
   virtual bool Contains(const IMarker& marker, const ReadValidator& validator) const = 0;

@@ -6,11 +6,12 @@
 
 namespace BE {
 
-/// The token every read of the model asks for. A read validator lives on the
-/// stack of the thread that made it and is valid only there: the model is not
-/// locked, so a token handed to another thread would let that thread read
-/// while the owner changes it. A read with an invalid token reports the misuse
-/// and answers empty.
+/// The token every read of the model asks for. What it checks: that it is
+/// used on the thread that made it, so a token is never handed on. What it
+/// does not do: lock the model. Changes happen on the main thread only (see
+/// UpgradeValidator); a worker thread that reads the model makes its own token
+/// and must know that the main thread is not changing what it reads meanwhile.
+/// A read with an invalid token reports the misuse and answers empty.
 class BE_API ReadValidator {
 public:
   ReadValidator() noexcept;
