@@ -65,4 +65,7 @@ class CursorInitializer;
 class ThemeChangedMessage;
 class ThemeResources;
 
+// Time controls.
+struct MarkerAddition;
+
 } // namespace ZEL

@@ -24,6 +24,7 @@
 #include <zel/appearance/ColorManager.h>
 #include <zel/appearance/ThemeChangedMessage.h>
 #include <zel/appearance/ThemeResources.h>
+#include <zel/timecontrols/MarkerUtils.h>
 #include <zel/views/BackgroundView.h>
 #include <zel/views/ControlView.h>
 #include <zel/views/DC.h>
