@@ -45,6 +45,7 @@ class ParentAndChildWindowDisabler;
 
 // Time controls.
 struct FractionRange;
+struct MarkerAddition;
 class ZoomBarCurve;
 class ZoomLimiter;
 
@@ -64,8 +65,5 @@ class ColorRegistry;
 class CursorInitializer;
 class ThemeChangedMessage;
 class ThemeResources;
-
-// Time controls.
-struct MarkerAddition;
 
 } // namespace ZEL

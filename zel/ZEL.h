@@ -24,7 +24,6 @@
 #include <zel/appearance/ColorManager.h>
 #include <zel/appearance/ThemeChangedMessage.h>
 #include <zel/appearance/ThemeResources.h>
-#include <zel/timecontrols/MarkerUtils.h>
 #include <zel/views/BackgroundView.h>
 #include <zel/views/ControlView.h>
 #include <zel/views/DC.h>
@@ -49,6 +48,7 @@
 #include <zel/views/FocusSaver.h>
 #include <zel/views/ParentAndChildWindowDisabler.h>
 #include <zel/views/WinOSEventFilterer.h>
+#include <zel/timecontrols/MarkerUtils.h>
 #include <zel/timecontrols/ZoomBarCurve.h>
 #include <zel/timecontrols/ZoomLimiter.h>
 #include <zel/workspace/IProject.h>
