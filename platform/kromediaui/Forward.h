@@ -1,0 +1,14 @@
+#pragma once
+
+namespace kromediaui {
+
+class UI_ZoomBar;
+class ZoomBarLayout;
+struct UI_ZoomBarImpl;
+struct ZoomBarColors;
+struct ZoomBarRange;
+
+template <typename Tag, typename Value>
+class ValueMessage;
+
+} // namespace kromediaui
