@@ -43,6 +43,13 @@ namespace Windows {
 class ParentAndChildWindowDisabler;
 } // namespace Windows
 
+// Time controls.
+class AudioZoomBarControl;
+struct AudioZoomRange;
+class ZoomControl;
+struct ZoomPosition;
+class ZoomSlider;
+
 // Workspace.
 class IProject;
 class SwitchableTabView;
