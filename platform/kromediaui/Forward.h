@@ -8,7 +8,4 @@ struct UI_ZoomBarImpl;
 struct ZoomBarColors;
 struct ZoomBarRange;
 
-template <typename Tag, typename Value>
-class ValueMessage;
-
 } // namespace kromediaui

@@ -1,5 +1,6 @@
 #include <zel/timecontrols/ZoomControlImpl.h>
 
+#include <zel/timecontrols/ZoomBarTheme.h>
 #include <zel/views/ControlView.h>
 #include <zel/views/DC.h>
 
@@ -12,10 +13,6 @@ namespace {
 using kroui::ui::PointerEvent;
 using Key = krocore::utility::ImmutableString;
 
-const Key kColor_Background{"colors.kls.audio.zoom.bar.control.background"};
-const Key kColor_Pressed{"colors.kls.audio.zoom.bar.control.thumb.active"};
-const Key kColor_Track{"colors.kls.audio.zoom.bar.control.thumb"};
-const Key kColor_Level{"colors.kls.audio.zoom.bar.control.handle"};
 const Key kColor_Glyph{"colors.kls.text"};
 const Key kColor_GlyphDisabled{"colors.kls.text.disabled"};
 
@@ -118,20 +115,20 @@ void ZoomControlImpl::Click(Button button) {
 
 void ZoomControlImpl::PaintSelf(kroui::drawbot::Drawbot& drawbot) {
   DC dc(drawbot);
-  dc.FillRect(GetLocalBounds(), kColor_Background);
+  dc.FillRect(GetLocalBounds(), kColor_ZoomBarTrack);
   for (const Button button : {Button::ZoomOut, Button::ZoomIn}) {
     const Rect box = ButtonRect(button);
-    if (mPressed == button && mIsPressedInside) dc.FillRect(box, kColor_Pressed);
+    if (mPressed == button && mIsPressedInside) dc.FillRect(box, kColor_ZoomBarThumbActive);
     PaintGlyph(dc, box, button == Button::ZoomIn, IsButtonEnabled(button) ? kColor_Glyph : kColor_GlyphDisabled);
   }
   const Rect area = PositionRect();
   if (area.IsEmpty()) return;
   const int top = (area.top + area.bottom - kTrackThickness) / 2;
   const Rect track{area.left + 2, top, area.right - 2, top + kTrackThickness};
-  dc.FillRect(track, kColor_Track);
+  dc.FillRect(track, kColor_ZoomBarThumb);
   if (!GetPosition().HasLevels()) return;
   const int filled = static_cast<int>(static_cast<long long>(track.Width()) * GetPosition().position / GetPosition().maximum);
-  dc.FillRect({track.left, track.top, track.left + filled, track.bottom}, kColor_Level);
+  dc.FillRect({track.left, track.top, track.left + filled, track.bottom}, kColor_ZoomBarHandle);
 }
 
 } // namespace ZEL

@@ -17,26 +17,13 @@ struct AudioZoomRange {
   bool operator==(const AudioZoomRange&) const noexcept = default;
 };
 
-struct ZoomPositionChangingTag {
-  static constexpr const char* kTypeID = "zel.ZoomPositionChangingMessage";
-};
-struct ZoomPositionChangedTag {
-  static constexpr const char* kTypeID = "zel.ZoomPositionChangedMessage";
-};
-struct AudioZoomChangingTag {
-  static constexpr const char* kTypeID = "zel.AudioZoomChangingMessage";
-};
-struct AudioZoomChangedTag {
-  static constexpr const char* kTypeID = "zel.AudioZoomChangedMessage";
-};
-
 /// The slider's knob is being dragged: the position it gives now.
-using ZoomPositionChangingMessage = kromediaui::ValueMessage<ZoomPositionChangingTag, ZoomPosition>;
+using ZoomPositionChangingMessage = kromediaui::ValueMessage<"zel.ZoomPositionChangingMessage", ZoomPosition>;
 /// The position changed and the change is complete: a button, a step, the end of a drag.
-using ZoomPositionChangedMessage = kromediaui::ValueMessage<ZoomPositionChangedTag, ZoomPosition>;
+using ZoomPositionChangedMessage = kromediaui::ValueMessage<"zel.ZoomPositionChangedMessage", ZoomPosition>;
 /// The user is changing the audio zoom bar's window.
-using AudioZoomChangingMessage = kromediaui::ValueMessage<AudioZoomChangingTag, AudioZoomRange>;
+using AudioZoomChangingMessage = kromediaui::ValueMessage<"zel.AudioZoomChangingMessage", AudioZoomRange>;
 /// The audio zoom bar's window changed and the change is complete.
-using AudioZoomChangedMessage = kromediaui::ValueMessage<AudioZoomChangedTag, AudioZoomRange>;
+using AudioZoomChangedMessage = kromediaui::ValueMessage<"zel.AudioZoomChangedMessage", AudioZoomRange>;
 
 } // namespace ZEL

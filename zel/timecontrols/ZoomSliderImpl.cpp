@@ -1,5 +1,6 @@
 #include <zel/timecontrols/ZoomSliderImpl.h>
 
+#include <zel/timecontrols/ZoomBarTheme.h>
 #include <zel/views/DC.h>
 
 #include <algorithm>
@@ -8,13 +9,6 @@ namespace ZEL {
 namespace {
 
 using kroui::ui::PointerEvent;
-using Key = krocore::utility::ImmutableString;
-
-const Key kColor_Background{"colors.kls.audio.zoom.bar.control.background"};
-const Key kColor_Track{"colors.kls.audio.zoom.bar.control.thumb"};
-const Key kColor_Knob{"colors.kls.audio.zoom.bar.control.handle"};
-const Key kColor_KnobPressed{"colors.kls.audio.zoom.bar.control.thumb.active"};
-
 constexpr int kTrackThickness = 4;
 // Ticks closer than this would run together: none are drawn.
 constexpr int kMinTickSpacing = 6;
@@ -97,17 +91,17 @@ bool ZoomSliderImpl::MouseWheelSelf(const PointerEvent& event) {
 void ZoomSliderImpl::PaintSelf(kroui::drawbot::Drawbot& drawbot) {
   DC dc(drawbot);
   const Rect bounds = GetLocalBounds();
-  dc.FillRect(bounds, kColor_Background);
+  dc.FillRect(bounds, kColor_ZoomBarTrack);
   const int top = (bounds.Height() - kTrackThickness) / 2;
-  dc.FillRect({kKnobWidth / 2, top, bounds.Width() - kKnobWidth / 2, top + kTrackThickness}, kColor_Track);
+  dc.FillRect({kKnobWidth / 2, top, bounds.Width() - kKnobWidth / 2, top + kTrackThickness}, kColor_ZoomBarThumb);
   const ZoomPosition& position = GetPosition();
   if (position.HasLevels() && Travel() / static_cast<long long>(position.maximum) >= kMinTickSpacing) {
     for (unsigned int level = 0; level <= position.maximum; ++level) {
       const int x = CenterOfLevel(level);
-      dc.FillRect({x, top + kTrackThickness + 2, x + 1, bounds.Height() - 2}, kColor_Track);
+      dc.FillRect({x, top + kTrackThickness + 2, x + 1, bounds.Height() - 2}, kColor_ZoomBarThumb);
     }
   }
-  dc.FillRect(KnobRect().Inset(0, 1), mIsDragging ? kColor_KnobPressed : kColor_Knob);
+  dc.FillRect(KnobRect().Inset(0, 1), mIsDragging ? kColor_ZoomBarThumbActive : kColor_ZoomBarHandle);
 }
 
 } // namespace ZEL

@@ -11,28 +11,17 @@
 
 namespace kromediaui {
 
-struct HotTimecodeValueChangingTag {
-  static constexpr const char* kTypeID = "kromediaui.HotTimecodeValueChangingMessage";
-};
-struct HotTimecodeValueChangedTag {
-  static constexpr const char* kTypeID = "kromediaui.HotTimecodeValueChangedMessage";
-};
-struct HotTimecodeVideoTimeDisplayChangedTag {
-  static constexpr const char* kTypeID = "kromediaui.HotTimecodeVideoTimeDisplayChangedMessage";
-};
-struct HotTimecodeAudioTimeDisplayChangedTag {
-  static constexpr const char* kTypeID = "kromediaui.HotTimecodeAudioTimeDisplayChangedMessage";
-};
-
 /// The time while the user scrubs.
-using HotTimecodeValueChangingMessage = ValueMessage<HotTimecodeValueChangingTag, kromediatypes::TickTime>;
+using HotTimecodeValueChangingMessage =
+    ValueMessage<"kromediaui.HotTimecodeValueChangingMessage", kromediatypes::TickTime>;
 /// The time once a change is final.
-using HotTimecodeValueChangedMessage = ValueMessage<HotTimecodeValueChangedTag, kromediatypes::TickTime>;
+using HotTimecodeValueChangedMessage =
+    ValueMessage<"kromediaui.HotTimecodeValueChangedMessage", kromediatypes::TickTime>;
 /// The new display of a video time.
 using HotTimecodeVideoTimeDisplayChangedMessage =
-    ValueMessage<HotTimecodeVideoTimeDisplayChangedTag, kromediatypes::TimeDisplay>;
+    ValueMessage<"kromediaui.HotTimecodeVideoTimeDisplayChangedMessage", kromediatypes::TimeDisplay>;
 /// The new display of an audio time.
 using HotTimecodeAudioTimeDisplayChangedMessage =
-    ValueMessage<HotTimecodeAudioTimeDisplayChangedTag, kromediatypes::TimeDisplay>;
+    ValueMessage<"kromediaui.HotTimecodeAudioTimeDisplayChangedMessage", kromediatypes::TimeDisplay>;
 
 } // namespace kromediaui

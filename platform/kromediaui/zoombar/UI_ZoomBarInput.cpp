@@ -157,6 +157,7 @@ bool UI_ZoomBar::HandleMouseWheelEvent(const PointerEvent& event) {
     Propose(range.ZoomedAround(anchor, std::pow(kZoomPerNotch, notches), minimum));
     return true;
   }
+  if (range.IsWhole()) return false; // nothing to pan: let an enclosing view scroll instead
   // Turning the wheel away from the user moves towards the start.
   Propose(range.MovedTo(range.start - notches * kPanPerNotch * range.Span(), minimum));
   return true;

@@ -138,6 +138,16 @@ TEST_F(ZoomBarTest, TheWheelPansAndWithControlZoomsAboutThePointer) {
   Pump();
   EXPECT_EQ(Range(), "0.2500-0.7500");
   EXPECT_EQ(changes.size(), 4u);
+
+  bar->SetValueRange(0.0, 1.0);
+  kroui::ui::PointerEvent wheel;
+  wheel.wheelDeltaY = -120;
+  EXPECT_FALSE(bar->HandleMouseWheelEvent(wheel)) << "nothing to pan: an enclosing view may scroll";
+  wheel.wheelDeltaY = 120;
+  wheel.modifiers = kroui::ui::kModKey_Control;
+  wheel.position = {200, 6};
+  EXPECT_TRUE(bar->HandleMouseWheelEvent(wheel));
+  EXPECT_EQ(Range(), "0.1000-0.9000");
 }
 
 TEST_F(ZoomBarTest, ADoubleClickFitsTheWholeAndTheNextGoesBack) {
