@@ -44,10 +44,15 @@ class ParentAndChildWindowDisabler;
 } // namespace Windows
 
 // Time controls.
+class AudioZoomBarControl;
+struct AudioZoomRange;
 struct FractionRange;
 struct MarkerAddition;
 class ZoomBarCurve;
+class ZoomControl;
 class ZoomLimiter;
+struct ZoomPosition;
+class ZoomSlider;
 
 // Workspace.
 class IProject;

@@ -48,9 +48,15 @@
 #include <zel/views/FocusSaver.h>
 #include <zel/views/ParentAndChildWindowDisabler.h>
 #include <zel/views/WinOSEventFilterer.h>
+#include <zel/timecontrols/AudioZoomBarControl.h>
 #include <zel/timecontrols/MarkerUtils.h>
 #include <zel/timecontrols/ZoomBarCurve.h>
+#include <zel/timecontrols/ZoomBarTheme.h>
+#include <zel/timecontrols/ZoomControl.h>
 #include <zel/timecontrols/ZoomLimiter.h>
+#include <zel/timecontrols/ZoomMessages.h>
+#include <zel/timecontrols/ZoomPosition.h>
+#include <zel/timecontrols/ZoomSlider.h>
 #include <zel/workspace/IProject.h>
 #include <zel/workspace/SwitchableTabView.h>
 #include <zel/workspace/WindowClassCallback.h>

@@ -57,17 +57,20 @@ int RunGallery(const std::filesystem::path& output) {
 
   kroui::backend::WindowDescription description;
   description.title = "ZEL Gallery";
-  description.bounds = {0, 0, 980, 560};
+  description.bounds = {0, 0, 980, 680};
   auto window = std::make_unique<kroui::ui::UI_Window>(description);
 
   auto background = std::make_shared<ZEL::BackgroundView>(ZEL::CommanderWeakPtr());
-  background->Create(kroui::ui::RefCountedWeakPtr<kroui::ui::UI_Container>(&window->GetRoot()), {0, 0, 980, 560});
+  background->Create(kroui::ui::RefCountedWeakPtr<kroui::ui::UI_Container>(&window->GetRoot()), {0, 0, 980, 680});
   background->SetBackgroundColorID("colors.kls.TabDock.Well");
   std::vector<std::shared_ptr<ZEL::ViewBase>> views{
       AddPanel<Gallery::TimecodePanel>(background, "Timecode", {10, 10, 480, 230}),
       AddPanel<Gallery::ShortcutPanel>(background, "Shortcuts", {490, 10, 970, 230}),
       AddPanel<Gallery::SwatchPanel>(background, "Colours", {10, 240, 480, 520}),
       AddPanel<Gallery::CursorPanel>(background, "Cursors", {490, 240, 970, 400})};
+  auto zoom = AddPanel<Gallery::ZoomPanel>(background, "Zoom", {10, 530, 970, 670});
+  zoom->AddPieces();
+  views.push_back(zoom);
   auto scrollBar = std::make_shared<ZEL::ScrollBar>(background);
   scrollBar->Create(background, {490, 410, 970, 410 + ZEL::ScrollBar::GetDefaultSize()},
                     ZEL::ScrollBar::Orientation::Horizontal, 1);

@@ -4,9 +4,14 @@
 #include <zel/commands/ShortcutManager.h>
 #include <zel/views/DC.h>
 #include <zel/views/DCState.h>
+#include <zel/timecontrols/AudioZoomBarControl.h>
+#include <zel/timecontrols/ZoomBarTheme.h>
+#include <zel/timecontrols/ZoomControl.h>
+#include <zel/timecontrols/ZoomSlider.h>
 
 #include <kromediatypes/TimeDisplay.h>
 #include <kroui/drawbot/FontTable.h>
+#include <kroui/ui/UI_Container.h>
 #include <kroui/utility/ResourceManager.h>
 
 #include <array>
@@ -118,6 +123,76 @@ void ShortcutPanel::PaintContent(ZEL::DC& dc, const Rect& area) {
     dc.DrawText(info.GetUIString(), row);
     dc.DrawText(info.GetMenuShortcut().GetString(), row, HorizontalAlignment::Right);
   }
+}
+
+// The zoom panel: labels in a column at the left, the pieces to their right.
+namespace {
+
+constexpr int kLabelWidth = 100;
+constexpr int kZoomRow = 24;
+// The audio bar stands at the right, its label to its left; the rows end before both.
+constexpr int kAudioColumn = 110;
+
+Rect ZoomRow(const Rect& area, int index) {
+  const int top = area.top + 10 + index * kZoomRow;
+  return {area.left + 10, top, area.right - kAudioColumn, top + kZoomRow};
+}
+
+int AudioBarLeft(const Rect& area) { return area.right - 20 - ZEL::AudioZoomBarControl::GetDefaultWidth(); }
+
+} // namespace
+
+ZoomPanel::~ZoomPanel() {
+  for (const auto& bar : mBars) bar->RemoveFromParent();
+}
+
+krocore::IntrusivePtr<kromediaui::UI_ZoomBar> ZoomPanel::AddBar(const Rect& bounds, double start, double end) {
+  auto bar = krocore::MakeIntrusive<kromediaui::UI_ZoomBar>();
+  bar->SetColors(ZEL::GetZoomBarThemeColors());
+  bar->SetValueRange(start, end);
+  if (auto* container = dynamic_cast<kroui::ui::UI_Container*>(GetKRONode().Get())) container->InsertChild(bar, bounds);
+  mBars.push_back(bar);
+  return bar;
+}
+
+void ZoomPanel::AddPieces() {
+  const Rect client = ClientRect();
+  const Rect area{client.left, client.top + kCaptionHeight + 1, client.right, client.bottom};
+  const int size = kromediaui::UI_ZoomBar::GetDefaultSize();
+  const auto place = [&](int row, int left, int width, int height) {
+    const Rect line = ZoomRow(area, row);
+    const int top = (line.top + line.bottom - height) / 2;
+    return Rect{line.left + kLabelWidth + left, top, line.left + kLabelWidth + left + width, top + height};
+  };
+  const Rect normal = place(0, 0, ZoomRow(area, 0).Width() - kLabelWidth, size);
+  AddBar(normal, 0.3, 0.6);
+  AddBar(place(1, 0, normal.Width(), size), 0.55, 0.6)->SetScroomBarToMinimizedMode();
+
+  auto buttons = std::make_shared<ZEL::ZoomControl>(WeakAs<ZEL::ViewBase>());
+  buttons->Create(WeakAs<ZEL::ViewBase>(), place(2, 0, 120, 20), 1, true);
+  buttons->SetPosition(3, 8);
+  auto slider = std::make_shared<ZEL::ZoomSlider>(WeakAs<ZEL::ViewBase>());
+  slider->Create(WeakAs<ZEL::ViewBase>(), place(3, 0, 180, 20), 2);
+  slider->SetPosition(5, 8);
+  auto audio = std::make_shared<ZEL::AudioZoomBarControl>(WeakAs<ZEL::ViewBase>());
+  const int audioLeft = AudioBarLeft(area);
+  audio->Create(WeakAs<ZEL::ViewBase>(),
+                {audioLeft, area.top + 10, audioLeft + ZEL::AudioZoomBarControl::GetDefaultWidth(), area.bottom - 10}, 3);
+  audio->SetValueMax(0.6f);
+  audio->SetValueMin(0.2f);
+  mControls = {buttons, slider, audio};
+}
+
+void ZoomPanel::PaintContent(ZEL::DC& dc, const Rect& area) {
+  static const std::array<const char*, 4> kLabels{"Zoom bar", "Minimised", "Zoom buttons", "Zoom slider"};
+  dc.SetFont({kroui::drawbot::kFont_Default});
+  dc.SetTextColor(kText);
+  for (int i = 0; i < static_cast<int>(kLabels.size()); ++i) {
+    const Rect row = ZoomRow(area, i);
+    dc.DrawText(kLabels[static_cast<std::size_t>(i)], {row.left, row.top, row.left + kLabelWidth, row.bottom});
+  }
+  const Rect first = ZoomRow(area, 0);
+  dc.DrawText("Audio", {first.right, first.top, AudioBarLeft(area) - 8, first.bottom}, HorizontalAlignment::Right);
 }
 
 } // namespace Gallery

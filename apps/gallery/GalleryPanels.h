@@ -4,7 +4,15 @@
 
 #include <zel/views/SubView.h>
 
+#include <kromediaui/zoombar/UI_ZoomBar.h>
+
+#include <memory>
 #include <string>
+#include <vector>
+
+namespace ZEL {
+class ControlView;
+} // namespace ZEL
 
 namespace Gallery {
 
@@ -56,6 +64,24 @@ public:
 
 private:
   void PaintContent(ZEL::DC& dc, const Rect& area) override;
+};
+
+/// The zoom pieces: a zoom bar as a timeline shows it, one minimised to a
+/// strip, the zoom buttons, the zoom slider and the audio amplitude bar.
+class ZoomPanel final : public Panel {
+public:
+  using Panel::Panel;
+  ~ZoomPanel() override;
+
+  /// Places the pieces; after Create.
+  void AddPieces();
+
+private:
+  void PaintContent(ZEL::DC& dc, const Rect& area) override;
+  krocore::IntrusivePtr<kromediaui::UI_ZoomBar> AddBar(const Rect& bounds, double start, double end);
+
+  std::vector<krocore::IntrusivePtr<kromediaui::UI_ZoomBar>> mBars;
+  std::vector<std::shared_ptr<ZEL::ControlView>> mControls;
 };
 
 } // namespace Gallery
