@@ -46,7 +46,6 @@ class ParentAndChildWindowDisabler;
 // Time controls.
 class AudioZoomBarControl;
 struct AudioZoomRange;
-struct FractionRange;
 struct MarkerAddition;
 class ZoomBarCurve;
 class ZoomControl;

@@ -41,7 +41,7 @@ BENCHMARK(ConstrainPair);
 
 void ZoomBarCurveBothWays(benchmark::State& state) {
   HostLimiter limiter;
-  ZEL::FractionRange thumbs{0.25, 0.5};
+  kromediaui::ZoomBarRange thumbs{0.25, 0.5};
   for (auto _ : state) {
     benchmark::DoNotOptimize(thumbs);
     benchmark::DoNotOptimize(limiter.VisibleRangeToThumbs(limiter.ThumbsToVisibleRange(thumbs)));

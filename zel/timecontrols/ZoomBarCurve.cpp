@@ -5,20 +5,20 @@
 
 namespace ZEL {
 
-namespace {
+using kromediaui::ZoomBarRange;
 
-bool IsFinite(FractionRange range) { return std::isfinite(range.start) && std::isfinite(range.end); }
+namespace {
 
 double UsableExponent(double exponent) { return std::isfinite(exponent) && exponent > 0.0 ? exponent : 1.0; }
 
-FractionRange ClampedEach(double start, double span) {
+ZoomBarRange ClampedEach(double start, double span) {
   return {std::clamp(start, 0.0, 1.0), std::clamp(start + span, 0.0, 1.0)};
 }
 
 } // namespace
 
-FractionRange ZoomBarCurve::ThumbsToVisible(FractionRange thumbs, double exponent) {
-  if (!IsFinite(thumbs)) return {};
+ZoomBarRange ZoomBarCurve::ThumbsToVisible(ZoomBarRange thumbs, double exponent) {
+  if (!thumbs.IsFinite()) return {};
   const double span = std::clamp(thumbs.end - thumbs.start, 0.0, 1.0);
   if (span >= 1.0) return {}; // the position start / (1 - span) has no meaning
   const double position = std::max(thumbs.start / (1.0 - span), 0.0);
@@ -26,8 +26,8 @@ FractionRange ZoomBarCurve::ThumbsToVisible(FractionRange thumbs, double exponen
   return ClampedEach(std::min(1.0, position) * (1.0 - visibleSpan), visibleSpan);
 }
 
-FractionRange ZoomBarCurve::VisibleToThumbs(FractionRange visible, double exponent) {
-  if (!IsFinite(visible)) return {};
+ZoomBarRange ZoomBarCurve::VisibleToThumbs(ZoomBarRange visible, double exponent) {
+  if (!visible.IsFinite()) return {};
   const double span = visible.end - visible.start;
   // A fractional power of a negative span is NaN: an empty or reversed range has no thumb span.
   const double thumbSpan = span > 0.0 ? std::clamp(std::pow(span, 1.0 / UsableExponent(exponent)), 0.0, 1.0) : 0.0;

@@ -112,11 +112,11 @@ void ZoomLimiter::CalculateZoomFactors(double& minimum, double& maximum) const {
   GetPixelsPerSecondLimits(minimum, maximum);
 }
 
-FractionRange ZoomLimiter::ThumbsToVisibleRange(FractionRange thumbs) const {
+kromediaui::ZoomBarRange ZoomLimiter::ThumbsToVisibleRange(kromediaui::ZoomBarRange thumbs) const {
   return ZoomBarCurve::ThumbsToVisible(thumbs, GetPowerExponent());
 }
 
-FractionRange ZoomLimiter::VisibleRangeToThumbs(FractionRange visible) const {
+kromediaui::ZoomBarRange ZoomLimiter::VisibleRangeToThumbs(kromediaui::ZoomBarRange visible) const {
   return ZoomBarCurve::VisibleToThumbs(visible, GetPowerExponent());
 }
 

@@ -72,8 +72,8 @@ public:
   void CalculateZoomFactors(double& minimum, double& maximum) const;
 
   /// The zoom bar's curve with this limiter's exponent (ZoomBarCurve).
-  FractionRange ThumbsToVisibleRange(FractionRange thumbs) const;
-  FractionRange VisibleRangeToThumbs(FractionRange visible) const;
+  kromediaui::ZoomBarRange ThumbsToVisibleRange(kromediaui::ZoomBarRange thumbs) const;
+  kromediaui::ZoomBarRange VisibleRangeToThumbs(kromediaui::ZoomBarRange visible) const;
 
 private:
   double DeepestSecondsPerPixel() const;

@@ -9,13 +9,13 @@
 
 namespace {
 
-using ZEL::FractionRange;
+using kromediaui::ZoomBarRange;
 using ZEL::ZoomBarCurve;
 
 constexpr double kExponent = 4.2;
 
 TEST(ZoomBarCurve, ThumbsShowAPowerOfTheirSpanAndKeepTheScrollPosition) {
-  const FractionRange visible = ZoomBarCurve::ThumbsToVisible({0.25, 0.75}, kExponent);
+  const ZoomBarRange visible = ZoomBarCurve::ThumbsToVisible({0.25, 0.75}, kExponent);
   const double span = std::pow(0.5, kExponent);
   EXPECT_DOUBLE_EQ(visible.end - visible.start, span);
   EXPECT_DOUBLE_EQ(visible.start / (1 - span), 0.5); // as 0.25 / (1 - 0.5)
@@ -40,7 +40,7 @@ TEST(ZoomBarCurve, RoundTripReturnsTheThumbsForEverySpanBetweenNothingAndAll) {
     if (a > b) std::swap(a, b);
     if (b - a <= 0.0 || b - a >= 1.0) continue;
     ++pairs;
-    const FractionRange back = ZoomBarCurve::VisibleToThumbs(ZoomBarCurve::ThumbsToVisible({a, b}, kExponent), kExponent);
+    const ZoomBarRange back = ZoomBarCurve::VisibleToThumbs(ZoomBarCurve::ThumbsToVisible({a, b}, kExponent), kExponent);
     const double tolerance = RoundTripTolerance(b - a);
     ASSERT_NEAR(back.start, a, tolerance) << a << " " << b;
     ASSERT_NEAR(back.end, b, tolerance) << a << " " << b;
@@ -51,15 +51,15 @@ TEST(ZoomBarCurve, RoundTripReturnsTheThumbsForEverySpanBetweenNothingAndAll) {
 
 TEST(ZoomBarCurve, EdgeSpansTakeTheirExplicitCase) {
   // All of it: no scroll position to keep.
-  EXPECT_EQ(ZoomBarCurve::ThumbsToVisible({0.0, 1.0}, kExponent), (FractionRange{0.0, 1.0}));
-  EXPECT_EQ(ZoomBarCurve::ThumbsToVisible({-0.5, 1.5}, kExponent), (FractionRange{0.0, 1.0}));
-  EXPECT_EQ(ZoomBarCurve::VisibleToThumbs({0.0, 1.0}, kExponent), (FractionRange{0.0, 1.0}));
+  EXPECT_EQ(ZoomBarCurve::ThumbsToVisible({0.0, 1.0}, kExponent), (ZoomBarRange{0.0, 1.0}));
+  EXPECT_EQ(ZoomBarCurve::ThumbsToVisible({-0.5, 1.5}, kExponent), (ZoomBarRange{0.0, 1.0}));
+  EXPECT_EQ(ZoomBarCurve::VisibleToThumbs({0.0, 1.0}, kExponent), (ZoomBarRange{0.0, 1.0}));
   // Reversed or empty: nothing visible, the start kept.
-  EXPECT_EQ(ZoomBarCurve::ThumbsToVisible({0.6, 0.4}, kExponent), (FractionRange{0.6, 0.6}));
-  EXPECT_EQ(ZoomBarCurve::VisibleToThumbs({0.6, 0.4}, kExponent), (FractionRange{0.6, 0.6}));
-  EXPECT_EQ(ZoomBarCurve::VisibleToThumbs({0.3, 0.3}, kExponent), (FractionRange{0.3, 0.3}));
+  EXPECT_EQ(ZoomBarCurve::ThumbsToVisible({0.6, 0.4}, kExponent), (ZoomBarRange{0.6, 0.6}));
+  EXPECT_EQ(ZoomBarCurve::VisibleToThumbs({0.6, 0.4}, kExponent), (ZoomBarRange{0.6, 0.6}));
+  EXPECT_EQ(ZoomBarCurve::VisibleToThumbs({0.3, 0.3}, kExponent), (ZoomBarRange{0.3, 0.3}));
   // Out of range: each end clamped.
-  const FractionRange clamped = ZoomBarCurve::VisibleToThumbs({0.9, 1.4}, kExponent);
+  const ZoomBarRange clamped = ZoomBarCurve::VisibleToThumbs({0.9, 1.4}, kExponent);
   EXPECT_EQ(clamped.end, 1.0);
   EXPECT_GE(clamped.start, 0.0);
 }
@@ -67,13 +67,13 @@ TEST(ZoomBarCurve, EdgeSpansTakeTheirExplicitCase) {
 TEST(ZoomBarCurve, InputNoBarProducesGetsANeutralAnswer) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   const double inf = std::numeric_limits<double>::infinity();
-  for (FractionRange bad : {FractionRange{nan, 0.5}, FractionRange{0.1, inf}, FractionRange{-inf, 0.5}}) {
-    EXPECT_EQ(ZoomBarCurve::ThumbsToVisible(bad, kExponent), (FractionRange{0.0, 1.0}));
-    EXPECT_EQ(ZoomBarCurve::VisibleToThumbs(bad, kExponent), (FractionRange{0.0, 1.0}));
+  for (ZoomBarRange bad : {ZoomBarRange{nan, 0.5}, ZoomBarRange{0.1, inf}, ZoomBarRange{-inf, 0.5}}) {
+    EXPECT_EQ(ZoomBarCurve::ThumbsToVisible(bad, kExponent), (ZoomBarRange{0.0, 1.0}));
+    EXPECT_EQ(ZoomBarCurve::VisibleToThumbs(bad, kExponent), (ZoomBarRange{0.0, 1.0}));
   }
   // A faulty exponent makes the bar linear: both directions are the identity.
   for (double exponent : {0.0, -2.0, nan, inf}) {
-    const FractionRange thumbs = ZoomBarCurve::ThumbsToVisible({0.2, 0.4}, exponent);
+    const ZoomBarRange thumbs = ZoomBarCurve::ThumbsToVisible({0.2, 0.4}, exponent);
     EXPECT_NEAR(thumbs.start, 0.2, 1e-15);
     EXPECT_NEAR(thumbs.end, 0.4, 1e-15);
     EXPECT_NEAR(ZoomBarCurve::VisibleToThumbs({0.2, 0.4}, exponent).end, 0.4, 1e-15);

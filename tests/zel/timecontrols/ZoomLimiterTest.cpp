@@ -166,7 +166,7 @@ TEST(ZoomLimiter, LimitsAndCurveGoThroughTheOverridableOperations) {
   limiter.GetPixelsPerSecondLimits(minimum, maximum);
   EXPECT_EQ(limiter.mRequests, (std::vector<double>{0.0, 1000000.0, 1000000.0, 0.0}));
   EXPECT_EQ(minimum, 2.0);
-  const ZEL::FractionRange thumbs{0.2, 0.4};
+  const kromediaui::ZoomBarRange thumbs{0.2, 0.4};
   EXPECT_EQ(limiter.ThumbsToVisibleRange(thumbs).start, thumbs.start);
   EXPECT_NEAR(limiter.ThumbsToVisibleRange(thumbs).end, thumbs.end, 1e-15);
 }
